@@ -1,0 +1,528 @@
+/*
+ * tavik.h - what the page programs of a device's web interface have in common
+ *
+ * A page program is a CGI executable: the web server starts one for each request. This library
+ * takes the request apart, prints HTML and JSON, cleans and checks what was submitted, and keeps
+ * each setting in an item, a small text file that is rewritten only when its value changes.
+ *
+ * General rules. A function's own comment tells only what is its own.
+ *
+ * Text      Texts are NUL-terminated UTF-8. A character is one 16-bit Unicode value (UCS-2), 1 to 3
+ *           bytes of UTF-8; characters beyond U+FFFF do not exist here, and their bytes count as
+ *           invalid and drop out of what is printed and stored. Bytes compare as unsigned.
+ * Sizes     Sizes, counts and limits of items, buffers and files are in bytes. The maxima and
+ *           minima of form fields are in characters; a maximum of n takes 3 x n bytes. A buffer
+ *           that goes with a count holds count + 1 bytes. A negative size or count is 0.
+ * Null      A null pointer where a value is needed makes a function do nothing and return its
+ *           failure, or 0 where it counts; printing a null text prints nothing. Pointers declared
+ *           nonnull are the exception: they are not tested.
+ * Results   A function that can fail returns int32_t: negative is failure, mostly -1. errno is as
+ *           the failing system call left it. There are no messages, but for the fatal ones of
+ *           getcgivars(), and where a function's comment tells of one.
+ * Memory    What a function hands out on the heap belongs to the caller, who releases it with
+ *           free(). Texts and records handed to a callback live until the callback returns.
+ *           Records passed in belong to the caller, who clears them (all bytes 0) before first use.
+ * Output    Everything printed goes to the C library's stdout stream, so it mixes freely with
+ *           printf(). Print functions count bytes written, not characters. Text of users and items
+ *           is escaped; literal markup, names, and all that a printf format of the page yields go
+ *           out as they are. The library prints no HTTP header but in front of a fatal message.
+ * Flags     A word of PF_ bits goes along with most printing. Functions ignore the bits that are
+ *           not theirs, so that one word can be passed on from function to function.
+ * Items     An item is addressed by a directory and a name, joined with exactly one "/". It is
+ *           replaced in place and nothing is locked: another process can see it empty for a moment.
+ * Process   No set-up, no threads, no state between calls but where a comment tells of it.
+ *           Descriptors and streams are closed by the function that opened them, on every path.
+ */
+#ifndef TAVIK_H
+#define TAVIK_H
+
+#include <stdarg.h>
+#include <stddef.h>
+#include <stdint.h>
+#include <stdio.h>
+
+#define TAVIK_VERSION_MAJOR 0
+#define TAVIK_VERSION_MINOR 1
+#define TAVIK_VERSION_PATCH 0
+#define TAVIK_VERSION "0.1.0"
+
+#define TAVIK_API __attribute__((visibility("default")))
+#define TAVIK_PRINTF(text, first) __attribute__((format(printf, text, first)))
+#define TAVIK_NONNULL(...) __attribute__((nonnull(__VA_ARGS__)))
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/* ============================================================================================
+ * Request intake
+ *
+ * The CGI environment and the request body, decoded into records for the page's handler.
+ * ========================================================================================= */
+
+/* One decoded name and value. The texts are writable and live until the handler returns. */
+typedef struct cgi_attr cgi_attr;
+struct cgi_attr {
+  cgi_attr* parent; /* null for every record of URL-encoded text */
+  char* name;       /* never null, may be empty */
+  char* value;      /* never null for URL-encoded text; empty for a name without "=" */
+};
+
+/* Where the records that a cgi_handler gets come from. */
+enum {
+  CGI_KIND_QUERY = 0,      /* the query string of a GET or HEAD request */
+  CGI_KIND_POST_QUERY = 1, /* the query string of a POST request */
+  CGI_KIND_FORM = 2,       /* a body of type application/x-www-form-urlencoded */
+  CGI_KIND_MULTIPART = 3   /* a body of type multipart/form-data */
+};
+
+/*
+ * The page's callback: context is the first argument of getcgivars(), attrs the first of count
+ * records. What its result does is told at getcgivars().
+ */
+typedef int32_t (*cgi_handler)(void* context, cgi_attr* attrs, int32_t count, int32_t kind);
+
+/*
+ * Takes the request apart and hands its variables to the page's handlers. Called once, before
+ * anything else reads standard input.
+ *
+ * GET and HEAD: QUERY_STRING is decoded for query_handler, or for body_handler if that is null,
+ * with CGI_KIND_QUERY. POST: if query_handler is not null it gets QUERY_STRING first, with
+ * CGI_KIND_POST_QUERY, and a negative result ends the request there; then body_handler gets the
+ * body, with CGI_KIND_FORM. At most CONTENT_LENGTH bytes are read from descriptor 0; a body that
+ * ends sooner is decoded as far as it came.
+ *
+ * Pairs are separated by "&" or ";", also where that makes an empty pair, and split at their first
+ * "="; "+" is a space, and "%" with two digits is a byte, resolved last. Two bytes that are no
+ * hexadecimal digits give some byte all the same, "%" with fewer than two bytes behind it ends the
+ * text, and "%00" ends it for all who read it as a C string. An empty text calls no handler.
+ *
+ * Either handler may be null. Result: the handler's result; 0 if the text was empty or could not
+ * be copied; the number of pairs if there is no handler or no memory for the records. For a POST
+ * it is that of the body, or query_handler's if negative.
+ *
+ * What cannot be served prints a plain-text page with one line of message and ends the process
+ * with exit(1): REQUEST_METHOD unset or none of the three; on a POST a CONTENT_TYPE that is not
+ * exactly the type above, a CONTENT_LENGTH of 0, no memory for the body (every
+ * negative length), or a read error.
+ */
+TAVIK_API int32_t getcgivars(void* context, cgi_handler body_handler, cgi_handler query_handler);
+
+/* ============================================================================================
+ * Page output
+ *
+ * UTF-8 text by character, and printing: plain, byte for byte, or escaped for HTML. Escaped
+ * output is pure ASCII: the four markup characters, U+00A0 to U+00FF and everything above become
+ * character references, named ones up to U+00FF.
+ * ========================================================================================= */
+
+/*
+ * Takes the next character off a text. The cursor moves behind what was taken.
+ *
+ * limit is the number of bytes that may be read; UINT32_MAX stands for NUL-terminated text. 0 is
+ * the answer both at the end of the text, where the cursor stays on the NUL, and for an invalid
+ * sequence, where it moves on: a stray or four-byte lead byte is stepped over alone, a sequence
+ * broken by an ASCII byte is stepped over with that byte, one broken by the NUL stops in front of
+ * it. A sequence cut by the limit leaves the cursor where it was. Overlong forms and surrogates are
+ * decoded like any others.
+ *
+ * Result: the character; 0 if there is none or cursor, or what it points to, is null.
+ */
+TAVIK_API uint32_t utf8_to_ucs2(const char** cursor, uint32_t limit);
+
+/*
+ * Writes one character below 0x10000 as UTF-8, without a terminator, if all its bytes fit in room.
+ *
+ * Result: the position behind the bytes written; out itself if they did not fit and nothing was
+ * written; null if out is null.
+ */
+TAVIK_API char* ucs2_to_utf8(char* out, uint32_t room, uint32_t character);
+
+/*
+ * Counts the characters of a text, at most limit of them. An invalid sequence ends the count, with
+ * limit as the result: invalid text reads as full.
+ *
+ * bytes, unless null, gets the distance from the start to where the count stopped, behind an
+ * invalid sequence if there was one: the place at which to cut the text at a character boundary.
+ *
+ * Result: the characters counted, or limit. A null text gives 0 and leaves bytes alone.
+ */
+TAVIK_API uint32_t utf8_length(const char* text, uint32_t limit, uint32_t* bytes);
+
+/*
+ * Copies a text into a destination of size bytes and terminates it. No padding is added.
+ *
+ * Result: the length copied; -1 if the text was cut to size - 1 bytes, if size is 0, or if a
+ * pointer is null, when nothing is written.
+ */
+TAVIK_API int32_t strsncpy(char* destination, uint32_t size, const char* source);
+
+/*
+ * Prints length bytes as they are, up to the first that cannot be written.
+ *
+ * Result: the bytes written.
+ */
+TAVIK_API uint32_t print_mem(const void* data, uint32_t length);
+
+/*
+ * Prints a text as it is.
+ *
+ * Result: the bytes written.
+ */
+TAVIK_API uint32_t print_str(const char* text);
+
+/*
+ * Prints a text as it is but for a CR ahead of every LF, one that has a CR already included.
+ *
+ * Result: the bytes written, with the added CRs.
+ */
+TAVIK_API uint32_t print_str_xcrlf(const char* text);
+
+/*
+ * Prints one character, escaped. Only its low 16 bits count; 0 prints nothing.
+ *
+ * Result: the bytes written.
+ */
+TAVIK_API uint32_t html_print_ucs2(uint32_t character);
+
+/*
+ * Prints a text, escaped. Invalid bytes drop out, the rest of the text is printed.
+ *
+ * Result: the bytes written.
+ */
+TAVIK_API uint32_t html_print_text(const char* text);
+
+/*
+ * Prints the beginning of a text, escaped: at most so many characters, and no more than so many
+ * bytes of the text. UINT32_MAX stands for no limit. Unlike html_print_text() it ends at the first
+ * invalid sequence.
+ *
+ * Result: the bytes written.
+ */
+TAVIK_API uint32_t html_print_text_limit(uint32_t characters, const char* text, uint32_t bytes);
+
+/*
+ * Prints a message, escaped, with line breaks and simple markup: LF prints "<br>", and ESC (0x1B)
+ * makes the next byte a code, "B" for "<b>", "b" for "</b>", "U" for "<u>", "u" for "</u>". Any
+ * other code is dropped. Nothing balances the tags.
+ *
+ * Result: the bytes written.
+ */
+TAVIK_API uint32_t html_print_text_nl(const char* text);
+
+/*
+ * Makes an escaped copy of a text, as html_print_text() would print it, and stores it in out; the
+ * caller frees it. If memory runs out on the way the copy is cut short.
+ *
+ * Result: the size of the buffer, a multiple of 4096; -1, with out untouched, if an argument is
+ * null or there is no memory.
+ */
+TAVIK_API int32_t html_asprint_text(char** out, const char* text);
+
+/*
+ * Makes a title attribute with a leading blank and the text escaped in it, and stores it in out;
+ * the caller frees it.
+ *
+ * Result: the attribute's length in bytes; -1 if an argument is null, the escaped text is empty,
+ * or there is no memory. out is then untouched.
+ */
+TAVIK_API int32_t asprint_title(char** out, const char* text);
+
+/*
+ * Prints a digit string with a mark between groups of three bytes, counted from the right. Both
+ * are printed as they are, so that the mark can be markup; signs and points are bytes like others.
+ * A null or empty mark leaves the text ungrouped.
+ */
+TAVIK_API void print_num_str_mark(const char* text, const char* mark);
+
+/*
+ * Prints what is left of a file as it is. The descriptor stays open.
+ *
+ * Result: the bytes printed, 0 for what fstat() tells is empty; -1 on an error of fstat(), the
+ * read or the output.
+ */
+TAVIK_API int32_t print_fd(int32_t fd);
+
+/*
+ * Prints a file size: "Bytes" up to 1024, above that rounded down to "KiB", with "&nbsp;" between
+ * number and unit.
+ *
+ * Result: that of printf().
+ */
+TAVIK_API int32_t print_fsize(int64_t size);
+
+/* ============================================================================================
+ * Item store
+ *
+ * An item is a file that holds one value: its first bytes up to the first control character (0x00
+ * to 0x1F and 0x7F). Writers put the value and one LF there. Spaces belong to the value, UTF-8 is
+ * not checked, and what follows the first line is never seen. An empty file holds the empty value.
+ * Only the create functions bring an item into being.
+ * ========================================================================================= */
+
+/*
+ * Reads count bytes from a descriptor, through short reads and EINTR.
+ *
+ * Result: the bytes read, fewer than count only at the end of the file, 0 if count is below 1; -1
+ * on a read error, with what had arrived left in buffer and its length lost.
+ */
+TAVIK_API int32_t full_read_fd(int32_t fd, void* buffer, int32_t count);
+
+/*
+ * Writes count bytes to a descriptor, through short writes, EINTR and answers of 0.
+ *
+ * Result: count, or 0 if count is below 1; -1 on a write error, whatever was written before.
+ */
+TAVIK_API int32_t full_write_fd(int32_t fd, const void* buffer, int32_t count);
+
+/*
+ * Copies what is left of one descriptor to another. Both stay open.
+ *
+ * Result: the bytes copied; -1 on a read or write error.
+ */
+TAVIK_API int32_t full_copy_fd(int32_t from, int32_t to);
+
+/*
+ * Joins an item's address and calls func(path, first, second). There is one "/" at the seam, but
+ * an empty directory adds none: the name then stands alone. The path lives until func returns.
+ *
+ * Result: that of func; -1 with errno untouched if an argument is null.
+ */
+TAVIK_API int32_t _func_path_name(int32_t (*func)(const char* path, int32_t first, uint32_t second),
+                                  const char* directory, const char* name, int32_t first,
+                                  uint32_t second);
+
+/*
+ * Opens an item with the flags and mode of open().
+ *
+ * Result: a descriptor, which the caller closes; -1 on failure.
+ */
+TAVIK_API int32_t open_path_name(const char* directory, const char* name, int32_t flags,
+                                 uint32_t mode);
+
+/*
+ * Unlinks an item; a symbolic link goes, not what it points to.
+ *
+ * Result: 0, or -1 on failure.
+ */
+TAVIK_API int32_t remove_item(const char* directory, const char* name);
+
+/*
+ * Tells whether an item exists, with symbolic links followed.
+ *
+ * Result: 0 if it does, else -1.
+ */
+TAVIK_API int32_t stat_item(const char* directory, const char* name);
+
+/*
+ * Reads the value of an item from an open descriptor: at most count bytes, cut at the first control
+ * character and terminated. buffer holds count + 1 bytes; bytes behind the terminator are
+ * unspecified. A cut can fall inside a UTF-8 sequence.
+ *
+ * Result: the value's length in bytes, 0 for the empty value; fd itself if it is negative, with
+ * buffer untouched; -1 on a read error, with buffer not terminated.
+ */
+TAVIK_API int32_t read_item_fd(int32_t fd, char* buffer, int32_t count);
+
+/*
+ * Reads the value of an item into a buffer of count + 1 bytes, as read_item_fd() does. After a
+ * failed open, or a read that failed at once, buffer holds the empty text.
+ *
+ * Result: the value's length in bytes; negative on failure.
+ */
+TAVIK_API int32_t read_item(const char* directory, const char* name, char* buffer, int32_t count);
+
+/*
+ * Reads the value of an item of any length from an open descriptor into a heap buffer. The buffer
+ * takes the file's size, but at least least bytes; a negative least stands for one memory page
+ * less one byte.
+ *
+ * Preset result to null and free it afterwards in every case: a failed read hands out a buffer,
+ * whose content is then undefined; the other failures leave result untouched.
+ *
+ * Result: the value's length in bytes; fd itself if it is negative; -1 on failure.
+ */
+TAVIK_API int32_t read_item_alloc_fd(int32_t fd, char** result, int32_t least);
+
+/*
+ * Reads the value of an item of any length into a heap buffer of at least one memory page, as
+ * read_item_alloc_fd() does, with its rule on freeing.
+ *
+ * Result: the value's length in bytes; negative on failure.
+ */
+TAVIK_API int32_t read_item_alloc(const char* directory, const char* name, char** result);
+
+/*
+ * Calls callback(context, word) for each word of a list item, in order. Words are separated by any
+ * number of spaces; each is writable and lives until its callback returns, whose result is ignored.
+ *
+ * Result: the length of the whole value in bytes, which is no count of words; negative on failure,
+ * -1 for a null callback.
+ */
+TAVIK_API int32_t read_items_str(int32_t (*callback)(uintptr_t context, char* word),
+                                 uintptr_t context, const char* directory, const char* name);
+
+/*
+ * Reads a number item from an open descriptor. Its first 15 bytes count, converted as by
+ * str_to_uint(): text without a digit is the number 0. Preset result to the default: it is written
+ * only if the value is not empty.
+ *
+ * Result: the value's length in bytes, 0 for the empty value; negative on failure. With a null
+ * result pointer the number itself, at most INT32_MAX, takes the place of the length.
+ */
+TAVIK_API int32_t read_item_uint_fd(int32_t fd, uint32_t* result);
+
+/*
+ * Reads a number item, as read_item_uint_fd() does.
+ *
+ * Result: as read_item_uint_fd(); negative also if the item cannot be opened.
+ */
+TAVIK_API int32_t read_item_uint(const char* directory, const char* name, uint32_t* result);
+
+/*
+ * Reads a number item, as read_item_uint_fd() does, from the one path that a printf format yields.
+ *
+ * Result: as read_item_uint_fd(); -1 if the path cannot be formed, is empty, or cannot be opened.
+ */
+TAVIK_API int32_t read_item_uint_fmt(uint32_t* result, const char* format, ...) TAVIK_PRINTF(2, 3);
+
+/*
+ * Reads a signed number item from an open descriptor: as read_item_uint_fd(), but converted as by
+ * str_to_sint(), and a null result pointer changes nothing else.
+ *
+ * Result: the value's length in bytes, 0 for the empty value; negative on failure.
+ */
+TAVIK_API int32_t read_item_sint_fd(int32_t fd, int32_t* result);
+
+/*
+ * Reads a signed number item, as read_item_sint_fd() does.
+ *
+ * Result: as read_item_sint_fd(); negative also if the item cannot be opened.
+ */
+TAVIK_API int32_t read_item_sint(const char* directory, const char* name, int32_t* result);
+
+/*
+ * Reads a number item and calls func with the number, UINT32_MAX for the empty value.
+ *
+ * Result: that of func; -1 without a call if the item cannot be read; -2 for a null func.
+ */
+TAVIK_API int32_t call_uint(const char* directory, const char* name,
+                            int32_t (*func)(uint32_t value));
+
+/*
+ * Converts leading decimal digits to a number, modulo 2^32. Spaces and signs are no digits.
+ *
+ * Result: the number, 0 without a leading digit or for a null text.
+ */
+TAVIK_API uint32_t str_to_uint(const char* text);
+
+/*
+ * Converts an optional "-" and decimal digits to a number, with the wrap of str_to_uint().
+ *
+ * Result: the number, 0 without a digit or for a null text.
+ */
+TAVIK_API int32_t str_to_sint(const char* text);
+
+/*
+ * Converts "true" and "false", in either case, or else a number to a truth value.
+ *
+ * Result: 1 for "true" and for any number but 0, otherwise 0.
+ */
+TAVIK_API uint32_t bool_to_uint(const char* text);
+
+/*
+ * Creates an item, or empties one that exists, and writes the value's first size bytes and one LF.
+ * The mode is 0666 under the process umask. A cut can fall inside a UTF-8 sequence.
+ *
+ * Result: the bytes written, the stored value's length + 1; negative on failure, which a null value
+ * is too, with no file touched.
+ */
+TAVIK_API int32_t create_item(const char* directory, const char* name, const char* value,
+                              int32_t size);
+
+/*
+ * Creates an item that holds a number in decimal, as create_item() does.
+ *
+ * Result: as create_item().
+ */
+TAVIK_API int32_t create_item_uint(const char* directory, const char* name, uint32_t value);
+
+/*
+ * Creates an item that holds two texts, joined with nothing between them and never cut.
+ *
+ * Result: as create_item(); -1 with no file touched if an argument is null.
+ */
+TAVIK_API int32_t create_concat_item(const char* directory, const char* name, const char* first,
+                                     const char* second);
+
+/*
+ * Stores a value in an existing item if it differs from the stored one: both are compared in their
+ * first size bytes, and the value's first size bytes and one LF are written. The same value is only
+ * read, and the file's time stamps stay. A value with a control character never compares as the
+ * same.
+ *
+ * Result: 0 if the stored value is the same; else the bytes written, at least 1; negative on
+ * failure, with the file unchanged, but for a failed write, which leaves it truncated or partly
+ * written. A missing item is a failure, and none comes into being.
+ */
+TAVIK_API int32_t update_item(const char* directory, const char* name, const char* value,
+                              int32_t size);
+
+/*
+ * Stores a number in decimal, as update_item() does.
+ *
+ * Result: as update_item().
+ */
+TAVIK_API int32_t update_item_uint(const char* directory, const char* name, uint32_t value);
+
+/*
+ * Compares a value with an item as update_item() does, and writes nothing.
+ *
+ * Result: 0 if the stored value is the same, 1 if it differs; negative on failure.
+ */
+TAVIK_API int32_t compare_item(const char* directory, const char* name, const char* value,
+                               int32_t size);
+
+/*
+ * Writes a number in decimal and one LF to an existing item, without comparing.
+ *
+ * Result: the bytes written; negative on failure, with the file unchanged unless the write failed.
+ */
+TAVIK_API int32_t write_item_uint(const char* directory, const char* name, uint32_t value);
+
+/*
+ * Writes a text of any length and one LF to an existing item, without comparing. A null text
+ * writes the empty value.
+ *
+ * Result: as write_item_uint().
+ */
+TAVIK_API int32_t write_item_text(const char* directory, const char* name, const char* text);
+
+/* ============================================================================================
+ * Form fields
+ *
+ * A field type prints its control for a value (gen_), turns a submitted text into a value (scan_)
+ * and carries the value from and to its item (rd_, update_, wr_).
+ * ========================================================================================= */
+
+/* ============================================================================================
+ * Credentials and certificates
+ * ========================================================================================= */
+
+/* ============================================================================================
+ * Network state
+ * ========================================================================================= */
+
+/* ============================================================================================
+ * External commands
+ * ========================================================================================= */
+
+/* ============================================================================================
+ * Data utilities
+ * ========================================================================================= */
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif /* TAVIK_H */

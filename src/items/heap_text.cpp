@@ -1,0 +1,14 @@
+#include "items/heap_text.h"
+
+#include <stdio.h>
+
+namespace tavik {
+
+char* format_text(const char* format, va_list arguments) {
+  if (format == nullptr) return nullptr;
+  char* text = nullptr;
+  // What vasprintf() leaves in the pointer after a failure differs between C libraries.
+  return vasprintf(&text, format, arguments) < 0 ? nullptr : text;
+}
+
+}  // namespace tavik

@@ -1,0 +1,28 @@
+#include "output/html_encode.h"
+#include "tavik.h"
+
+uint32_t html_print_ucs2(uint32_t character) {
+  char escape[tavik::kLongestEscape];
+  return print_mem(escape, tavik::html_encode_ucs2(escape, character));
+}
+
+uint32_t html_print_text(const char* text) {
+  if (text == nullptr) return 0;
+  uint32_t written = 0;
+  while (*text != '\0') written += html_print_ucs2(utf8_to_ucs2(&text, UINT32_MAX));
+  return written;
+}
+
+uint32_t html_print_text_limit(uint32_t characters, const char* text, uint32_t bytes) {
+  if (text == nullptr) return 0;
+  uint32_t written = 0;
+  while (characters > 0 && bytes > 0 && *text != '\0') {
+    const char* const start = text;
+    const uint32_t character = utf8_to_ucs2(&text, bytes);
+    if (character == 0) break;
+    written += html_print_ucs2(character);
+    bytes -= static_cast<uint32_t>(text - start);
+    --characters;
+  }
+  return written;
+}

@@ -1,0 +1,111 @@
+#include "support/page_process.h"
+
+#include <fcntl.h>
+#include <sys/mman.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <thread>
+
+namespace test {
+
+namespace {
+
+struct Pipe {
+  int read_end = -1;
+  int write_end = -1;
+  Pipe() {
+    int ends[2];
+    if (pipe2(ends, O_CLOEXEC) == 0) read_end = ends[0], write_end = ends[1];
+  }
+};
+
+std::vector<char*> pointers(std::vector<std::string>& texts) {
+  std::vector<char*> list;
+  for (std::string& text : texts) list.push_back(text.data());
+  list.push_back(nullptr);
+  return list;
+}
+
+pid_t start(const std::string& program, const PageRequest& request, int input, int output) {
+  std::vector<std::string> arguments{program};
+  arguments.insert(arguments.end(), request.arguments.begin(), request.arguments.end());
+  std::vector<std::string> environment;
+  for (const auto& [name, value] : request.environment) environment.push_back(name + "=" + value);
+  const std::vector<char*> argv = pointers(arguments);
+  const std::vector<char*> envp = pointers(environment);
+  const pid_t child = fork();
+  if (child != 0) return child;
+  dup2(input, STDIN_FILENO);
+  dup2(output, STDOUT_FILENO);
+  execve(program.c_str(), argv.data(), envp.data());
+  _exit(127);
+}
+
+void feed(int fd, const std::string& body, size_t piece) {
+  for (size_t sent = 0; sent < body.size();) {
+    const ssize_t done = write(fd, body.data() + sent, std::min(piece, body.size() - sent));
+    if (done <= 0) break;
+    sent += static_cast<size_t>(done);
+  }
+  close(fd);
+}
+
+std::string drain(int fd) {
+  std::string text;
+  char buffer[65536];
+  for (ssize_t got = 0; (got = read(fd, buffer, sizeof buffer)) > 0;) {
+    text.append(buffer, static_cast<size_t>(got));
+  }
+  close(fd);
+  return text;
+}
+
+int exit_status(pid_t child) {
+  int status = 0;
+  waitpid(child, &status, 0);
+  return WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
+}
+
+PageAnswer run_from_file(const std::string& program, const PageRequest& request) {
+  const int file = memfd_create("body", MFD_CLOEXEC);
+  std::string rest = request.body;
+  if (write(file, rest.data(), rest.size()) != static_cast<ssize_t>(rest.size())) return {};
+  lseek(file, 0, SEEK_SET);
+  const Pipe output;
+  const pid_t child = start(program, request, file, output.write_end);
+  close(output.write_end);
+  PageAnswer answer;
+  answer.output = drain(output.read_end);
+  answer.status = exit_status(child);
+  answer.unread = request.body.size() - static_cast<size_t>(lseek(file, 0, SEEK_CUR));
+  close(file);
+  return answer;
+}
+
+PageAnswer run_from_pipe(const std::string& program, const PageRequest& request) {
+  const Pipe input;
+  const Pipe output;
+  const pid_t child = start(program, request, input.read_end, output.write_end);
+  close(input.read_end);
+  close(output.write_end);
+  std::thread feeder(feed, input.write_end, std::cref(request.body), request.piece);
+  PageAnswer answer;
+  answer.output = drain(output.read_end);
+  feeder.join();
+  answer.status = exit_status(child);
+  return answer;
+}
+
+}  // namespace
+
+PageAnswer run_page(const std::string& program, const PageRequest& request) {
+  return request.piece == 0 ? run_from_file(program, request) : run_from_pipe(program, request);
+}
+
+std::string page_program(const std::string& name) {
+  return std::string(TEST_PAGES) + "/" + name;
+}
+
+}  // namespace test
