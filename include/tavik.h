@@ -565,6 +565,30 @@ TAVIK_API int32_t write_item_text(const char* directory, const char* name, const
 
 /* ---- Base64 -------------------------------------------------------------------------------- */
 
+/*
+ * Encodes bytes as Base64 text (RFC 4648, section 4), with padding and without line breaks, and
+ * terminates it. The text takes 4 characters for every 3 bytes begun; size, in bytes, must leave
+ * room for the terminator behind it.
+ *
+ * Result: the text's length in bytes; -1, with nothing written, if it does not fit or a pointer is
+ * null. The source of no bytes may be null.
+ */
+TAVIK_API int32_t base64_encode(char* destination, int32_t size, const void* source,
+                                int32_t length);
+
+/*
+ * Decodes length bytes of Base64 text (RFC 4648, section 4) to at most size bytes; no terminator
+ * is added. Bytes outside the alphabet are skipped wherever they stand, NUL, line ends, "-" and
+ * "_" among them. Padding is required, ends the text, and the bits it leaves unused are not looked
+ * at; a group of one character and three "=" is taken as one byte.
+ *
+ * Result: the bytes decoded, 0 if length is below 1; -1 for malformed text, or a null pointer; -2
+ * if they do not fit. Whichever fault comes first decides, and the destination then holds what was
+ * decoded ahead of it.
+ */
+TAVIK_API int32_t base64_decode(void* destination, int32_t size, const char* source,
+                                int32_t length);
+
 /* ---- Flat databases ------------------------------------------------------------------------ */
 
 /* ---- Operator names ------------------------------------------------------------------------ */
