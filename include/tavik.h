@@ -521,9 +521,113 @@ TAVIK_API int32_t write_item_text(const char* directory, const char* name, const
 
 /* ---- Select boxes -------------------------------------------------------------------------- */
 
+/*
+ * Takes the index of a numeric select off a submitted text: decimal digits behind leading blanks
+ * (0x20 only), modulo 2^32, with whatever follows them ignored. Without a digit it is
+ * default_value. An index of count or more, the default's too, becomes count - 1; with a count of 0
+ * the index is 0.
+ *
+ * Result: 1 if *current differed and got the index; 0 otherwise, with *current untouched.
+ */
+TAVIK_API int32_t scan_select_num(const char* text, uint32_t* current, uint32_t count,
+                                  uint32_t default_value);
+
 /* ---- Check and number boxes ---------------------------------------------------------------- */
 
+/*
+ * Takes a number off a submitted text: decimal digits behind leading blanks (0x20 only), modulo
+ * 2^32, with whatever follows them ignored. One below the minimum becomes the minimum, any other of
+ * the maximum or more becomes the maximum. Without a digit the value is default_value, which may
+ * lie outside the range.
+ *
+ * Result: 1 if *current differed and got the value; 0 otherwise, with *current untouched.
+ */
+TAVIK_API int32_t scan_number(const char* text, uint32_t* current, uint32_t minimum,
+                              uint32_t maximum, uint32_t default_value);
+
 /* ---- Ranges, times, lists ------------------------------------------------------------------ */
+
+/*
+ * Takes one number of a comma list off a text, with the digits and blanks of scan_number(), and
+ * stores it in *number, which may be null. The last number has no comma behind it: it is stored,
+ * and the null result ends the walk.
+ *
+ * Result: the text behind the comma that follows the number; null without one, and also, with
+ * *number untouched, if the text does not begin with a number.
+ */
+TAVIK_API const char* scan_uint(const char* text, uint32_t* number);
+
+/*
+ * Takes a list such as "(1,2,3)," off a text and stores its numbers at array[*count] and on, with
+ * *count moving along. At most capacity numbers are added; further ones are read and dropped. The
+ * count is never reset, so that calls on the results gather several lists, while the caller lowers
+ * the capacity.
+ *
+ * Blanks alone separate numbers too, and a comma may stand ahead of ")"; a blank ahead of a comma
+ * or ")" is malformed. Numbers ahead of a malformed place stay stored and counted.
+ *
+ * Result: the text behind the list's comma, or the text's end if it ends within the list; null if
+ * malformed, a missing "(" or final comma included; text itself if an argument is null.
+ */
+TAVIK_API const char* scan_list_uint(const char* text, uint32_t* count, uint32_t* array,
+                                     uint32_t capacity);
+
+/*
+ * Takes a range off a submitted text: one or two numbers as scan_number() reads them, with "-" or
+ * ":" between, and blanks allowed around it. Each is limited as there, then the two are put in
+ * order. A single number is both bounds. Without a number, or with only one behind the separator,
+ * both bounds get default_value, which is not limited.
+ *
+ * Result: 1 if *first or *last differed, when both are written; 0 otherwise, with both untouched.
+ */
+TAVIK_API int32_t scan_range(const char* text, uint32_t* first, uint32_t* last, uint32_t minimum,
+                             uint32_t maximum, uint32_t default_value);
+
+/*
+ * Tells whether a text, behind leading blanks, begins with a word in any case of ASCII letters.
+ * What follows the word is not looked at, and every text begins with the empty word.
+ *
+ * Result: 1 if it does, else 0.
+ */
+TAVIK_API int32_t scan_string(const char* text, const char* word);
+
+/*
+ * Takes a time, hours and optionally ":" and minutes, off a text with sscanf(): "25:90" is 2:30.
+ * Minutes above 59 go over to the hours, and the hours wrap at 24. A text without a number gives
+ * 1:00.
+ *
+ * Result: the numbers found, 2, 1 or 0; -1 for a text of nothing but white space, and, with nothing
+ * stored, for a null hours or minutes.
+ */
+TAVIK_API int32_t scan_time(const char* text, uint32_t* hours, uint32_t* minutes) TAVIK_NONNULL(1);
+
+/* One weekday of a table. */
+typedef struct dow_entry dow_entry;
+struct dow_entry {
+  uint32_t day;      /* 0 to 6, Sunday first */
+  const char* name;  /* "sun", "mon", "tue", "wed", "thu", "fri" or "sat" */
+  const char* label; /* inside the packed list */
+};
+
+/*
+ * Fills a table of at most capacity entries from a packed list: texts one behind the other, each
+ * a digit 0 to 6 for the day and the label, each with its NUL, and an empty text at the end. The
+ * entries keep the order of the list, and their labels point into it.
+ *
+ * A text with a digit 7 to 9 uses up its entry and leaves it untouched; one without a digit ends
+ * the list.
+ */
+TAVIK_API void gen_dow_table(dow_entry* table, uint32_t capacity, const char* list);
+
+/*
+ * Writes a set of weekdays, bit 0 for Sunday up to bit 6 for Saturday, as the day field of a cron
+ * line: "1,3,5", "*" for all seven days, and the empty text for none. Higher bits mean nothing.
+ * size is the buffer's whole size in bytes.
+ *
+ * Result: buffer; a constant "*", with the buffer untouched, if it is null or smaller than 15
+ * bytes.
+ */
+TAVIK_API const char* cron_weekdays(char* buffer, uint32_t size, uint32_t mask);
 
 /* ---- Radio buttons, buttons, images, uploads ----------------------------------------------- */
 
