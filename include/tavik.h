@@ -255,6 +255,83 @@ TAVIK_API int32_t print_fsize(int64_t size);
 
 /* ---- Print formatter and flags ------------------------------------------------------------- */
 
+/*
+ * Print flags. Most are attributes of the tag being printed, the others steer field functions and
+ * the output of commands. A function that could not read a stored value hands the word back with
+ * PF_DISABLED, so that the field shows up disabled with no code in the page.
+ */
+#define PF_DISABLED 0x1U            /* control disabled, JSON text null, all bullets shown */
+#define PF_CHECKED 0x2U             /* check box or radio button on */
+#define PF_READONLY 0x4U            /* field read-only, most boxes then without maxlength */
+#define PF_SELECTED 0x8U            /* option selected; set by the select boxes */
+#define PF_PASSWORD 0x10U           /* input type "password", value shown as bullets */
+#define PF_MASKED 0x20U             /* input type "text", value shown as bullets */
+#define PF_DATA_VALUE 0x40U         /* with bullets: clear value in a data-value attribute */
+#define PF_DISPLAY_NONE 0x80U       /* element not displayed */
+#define PF_INVISIBLE 0x100U         /* element hidden, its room kept */
+#define PF_SUBMIT 0x200U            /* button of type "submit", else "button" */
+#define PF_AUTOCOMPLETE_OFF 0x400U  /* autocomplete "off"; with the next one "default" */
+#define PF_AUTOCOMPLETE_ON 0x800U   /* autocomplete "on" */
+#define PF_PRE 0x1000U              /* command output inside "<pre>" */
+#define PF_COMMENT 0x2000U          /* command output inside an HTML comment */
+#define PF_RAW 0x4000U              /* text printed without escaping */
+#define PF_KEEP_NONE_OPTION 0x8000U /* certificate select: none option offered in any case */
+#define PF_CRLF 0x10000U            /* with PF_RAW: a CR ahead of every LF */
+#define PF_QUIET 0x20000U           /* run_shell() prints nothing */
+#define PF_SIZE 0x40000U            /* text box with a size attribute */
+#define PF_JSON_MORE 0x80000U       /* the next JSON member needs a separator */
+
+/*
+ * Prints text for HTML by a format like that of printf(), with every text and character among the
+ * arguments escaped. The format's literal text goes out as it is if raw is not 0, else escaped too
+ * and each piece up to its first invalid sequence.
+ *
+ * "%s" prints a text up to its first invalid sequence, "%c" the character of an argument's low 16
+ * bits. A number in a conversion, or an int32_t argument for "*" unless negative, is the most
+ * characters of "%s" and the repeat count of "%c"; there is no padding, and "-" and "." mean
+ * nothing. "%d", "%i", "%u", "%x" and "%X" are printf()'s with its flags, width and precision,
+ * but for "*", which must not be used there. Each takes an int32_t or uint32_t, with "l" a long,
+ * and nothing wider. "%%" is a percent sign. Any other byte is skipped and the conversion goes on
+ * behind it; one that the format's end cuts off prints nothing.
+ *
+ * Result: the bytes written, after escaping.
+ */
+TAVIK_API int32_t html_printf(uint32_t raw, const char* format, ...) TAVIK_NONNULL(2);
+
+/*
+ * Prints the attributes of the flag word into the open tag, each with a leading blank: in this
+ * order " checked", " disabled", " readonly", " selected", the styles "display: none;" and
+ * "visibility: hidden;", one style attribute each, and autocomplete with "off", "on" or "default".
+ */
+TAVIK_API void print_flags(uint32_t flags);
+
+/* Prints ", " if the flag word says that a JSON member went before. */
+TAVIK_API void print_json_flags(uint32_t flags);
+
+/*
+ * Gives an attribute for code that prints with a format, by an index that is no flag: 1 is
+ * " disabled", 2 " checked", 3 " readonly", 4 " selected".
+ *
+ * Result: a constant text, never null; empty for any other index.
+ */
+TAVIK_API const char* html_attr(uint32_t index);
+
+/*
+ * Prints a text as the flag word says: escaped, with PF_RAW as it is, with PF_RAW and PF_CRLF as
+ * it is but for a CR ahead of every LF.
+ *
+ * Result: the bytes written.
+ */
+TAVIK_API uint32_t print_xstr(const char* text, uint32_t flags);
+
+/*
+ * Adds PF_CRLF for a browser that wants it: if "Windows" stands anywhere in the text, such as the
+ * request's HTTP_USER_AGENT.
+ *
+ * Result: the flag word, the one given if text is null.
+ */
+TAVIK_API uint32_t get_print_flags(uint32_t flags, const char* text);
+
 /* ---- Page frame ---------------------------------------------------------------------------- */
 
 /* ============================================================================================
