@@ -734,7 +734,50 @@ TAVIK_API const char* cron_weekdays(char* buffer, uint32_t size, uint32_t mask);
 
 /* ============================================================================================
  * External commands
+ *
+ * Commands are complete command lines for the system's shell, to which they go as they are: nothing
+ * is quoted or filtered. Only the standard output is captured; standard input and standard error
+ * are the page's own. Every call blocks until the command has ended.
+ *
+ * The status of a command is a wait status: 0 for exit code 0, otherwise positive, with the exit
+ * code in bits 8 to 15. A command that fails is no failure here, nor is one that does not exist.
  * ========================================================================================= */
+
+/*
+ * Runs a command and stores its whole output in out, as a text that the caller frees. One line feed
+ * at its end is taken off. If memory runs out on the way the text is cut short. The command's
+ * status is not told: a failing command gives what it printed.
+ *
+ * Result: the size of the buffer in bytes, a multiple of 4096, not the text's length; -1 if an
+ * argument is null or the shell cannot be started, with out untouched, or if there is no memory,
+ * with null in out.
+ */
+TAVIK_API int32_t asprint_shell(char** out, const char* command);
+
+/*
+ * Runs a command and makes a title attribute of its output, as asprint_shell() and asprint_title()
+ * do. The caller frees it.
+ *
+ * Result: the attribute's length in bytes; -1 if there is no output, and on failure. out is then
+ * untouched.
+ */
+TAVIK_API int32_t asprint_title_shell(char** out, const char* command);
+
+/*
+ * Sends a signal to the process whose number an item holds.
+ *
+ * Result: that of kill(); -1 without a signal if the item cannot be read or does not hold a number
+ * above 0.
+ */
+TAVIK_API int32_t signal_process(const char* directory, const char* name, int32_t signal);
+
+/*
+ * Finds the last component of a path; count and path are meant to be argc and argv[0]. A path that
+ * ends in "/" gives the empty text.
+ *
+ * Result: a pointer into path; null if count is 0 or path is null.
+ */
+TAVIK_API const char* get_progname(uint32_t count, const char* path);
 
 /* ============================================================================================
  * Data utilities

@@ -11,4 +11,13 @@ char* format_text(const char* format, va_list arguments) {
   return vasprintf(&text, format, arguments) < 0 ? nullptr : text;
 }
 
+bool grow(char*& buffer, uint32_t& size) {
+  if (size > INT32_MAX - kGrowth) return false;
+  auto* const grown = static_cast<char*>(realloc(buffer, size + kGrowth));
+  if (grown == nullptr) return false;
+  buffer = grown;
+  size += kGrowth;
+  return true;
+}
+
 }  // namespace tavik

@@ -7,7 +7,6 @@
 
 namespace {
 
-constexpr uint32_t kStep = 4096;
 // Room for one escape and the terminator, with some to spare.
 constexpr uint32_t kLeastRoom = 16;
 
@@ -15,19 +14,14 @@ constexpr uint32_t kLeastRoom = 16;
 
 int32_t html_asprint_text(char** out, const char* text) {
   if (out == nullptr || text == nullptr) return -1;
-  uint32_t size = kStep;
+  uint32_t size = tavik::kGrowth;
   auto* buffer = static_cast<char*>(malloc(size));
   if (buffer == nullptr) return -1;
   uint32_t length = 0;
   while (*text != '\0') {
     length += tavik::html_encode_ucs2(buffer + length, utf8_to_ucs2(&text, UINT32_MAX));
     if (*text == '\0' || size - length >= kLeastRoom) continue;
-    // The size is the result, so the buffer ends where that can no longer tell it.
-    if (size > INT32_MAX - kStep) break;
-    auto* const grown = static_cast<char*>(realloc(buffer, size + kStep));
-    if (grown == nullptr) break;
-    buffer = grown;
-    size += kStep;
+    if (!tavik::grow(buffer, size)) break;
   }
   buffer[length] = '\0';
   *out = buffer;

@@ -1,0 +1,82 @@
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+
+#include "tavik.h"
+
+namespace {
+
+struct Captured {
+  std::string text;
+  int32_t result;
+};
+
+Captured capture(int32_t (*run)(char**, const char*), const std::string& command) {
+  char untouched[] = "untouched";
+  char* out = untouched;
+  const int32_t result = run(&out, command.c_str());
+  Captured captured{out, result};
+  if (out != untouched) free(out);
+  return captured;
+}
+
+TEST(AsprintShell, TakesOneLineFeedOff) {
+  const struct {
+    const char *command, *text;
+  } cases[] = {
+      {"echo one", "one"},     {"printf 'a\\nb\\n\\n'", "a\nb\n"},
+      {"printf '\\n'", ""},    {"true", ""},
+      {"echo x; exit 3", "x"}, {"no-such-command 2>&-", ""},
+      {"printf 'a\\0b'", "a"},
+  };
+  for (const auto& c : cases) {
+    const Captured captured = capture(asprint_shell, c.command);
+    EXPECT_EQ(captured.text, c.text) << c.command;
+    EXPECT_EQ(captured.result, 4096) << c.command;
+  }
+}
+
+TEST(AsprintShell, GrowsWhen256BytesAreLeft) {
+  const struct {
+    size_t length;
+    int32_t capacity;
+  } cases[] = {{3839, 4096}, {3840, 8192},  {4095, 8192},  {4096, 8192},
+               {7935, 8192}, {7936, 12288}, {8192, 12288}, {1000000, 1003520}};
+  for (const auto& c : cases) {
+    const auto captured =
+        capture(asprint_shell, "head -c " + std::to_string(c.length) + " /dev/zero | tr '\\0' y");
+    EXPECT_EQ(captured.text, std::string(c.length, 'y'));
+    EXPECT_EQ(captured.result, c.capacity) << c.length;
+  }
+}
+
+TEST(AsprintShell, ReadsOnThroughPauses) {
+  EXPECT_EQ(capture(asprint_shell, "printf a; sleep 0.05; printf b").text, "ab");
+}
+
+TEST(AsprintShell, LeavesOutAloneWithoutAShell) {
+  char* out = nullptr;
+  EXPECT_EQ(asprint_shell(nullptr, "true"), -1);
+  EXPECT_EQ(asprint_shell(&out, nullptr), -1);
+  EXPECT_EQ(asprint_title_shell(nullptr, "echo x"), -1);
+  EXPECT_EQ(asprint_title_shell(&out, nullptr), -1);
+  struct rlimit before {};
+  getrlimit(RLIMIT_NOFILE, &before);
+  const struct rlimit none { 0, before.rlim_max };
+  setrlimit(RLIMIT_NOFILE, &none);
+  const Captured text = capture(asprint_shell, "echo x");
+  const Captured title = capture(asprint_title_shell, "echo x");
+  setrlimit(RLIMIT_NOFILE, &before);
+  EXPECT_EQ(text.text + title.text, "untoucheduntouched");
+  EXPECT_EQ(text.result + title.result, -2);
+}
+
+TEST(AsprintTitleShell, EscapesTheOutput) {
+  const Captured title = capture(asprint_title_shell, "printf '<\"a\\n'");
+  EXPECT_EQ(title.text, " title=\"&lt;&quot;a\"");
+  EXPECT_EQ(title.result, 20);
+  const Captured empty = capture(asprint_title_shell, "echo");
+  EXPECT_EQ(empty.text, "untouched");
+  EXPECT_EQ(empty.result, -1);
+}
+
+}  // namespace
