@@ -583,6 +583,64 @@ TAVIK_API int32_t write_item_text(const char* directory, const char* name, const
 
 /* ---- Directories and files by line --------------------------------------------------------- */
 
+/* The flags of make_directory(). */
+enum {
+  MAKE_DIR_PARENTS = 0x4 /* missing parents are made too, and an existing directory is a success */
+};
+
+/*
+ * Makes a directory. mode, unless it is -1, is set exactly with chmod(), and only on a directory
+ * that this call made; otherwise the mode is 0777 under the process umask. Parents that come into
+ * being have that mode as well, but their owner can always write and search them. The path "." is
+ * there already, whatever the flags.
+ *
+ * On a failure "can't create directory 'PATH'" or "can't set permissions of directory 'PATH'" goes
+ * to stderr, without a line end. path is worked on in place: it is whole again after a success, and
+ * after a failure on a parent it is left cut behind that parent, as the message shows it. The umask
+ * is changed during the call.
+ *
+ * Result: 0; -1 on failure, for an existing directory too unless MAKE_DIR_PARENTS is set.
+ */
+TAVIK_API int32_t make_directory(char* path, int32_t mode, uint32_t flags);
+
+/*
+ * Unlinks the one file whose path a printf format yields.
+ *
+ * Result: that of unlink(); -1 if the path cannot be formed.
+ */
+TAVIK_API int32_t remove_filef(const char* format, ...) TAVIK_PRINTF(1, 2);
+
+/*
+ * Removes a directory and the files in it, hidden ones too. A subdirectory cannot be removed this
+ * way: the files are gone then, the subdirectory stays, and so does the directory.
+ *
+ * Result: that of rmdir(), which is tried in every case; -1 for a null path.
+ */
+TAVIK_API int32_t remove_dir_leaf(const char* path);
+
+/*
+ * Counts the entries of a directory whose names do not begin with ".".
+ *
+ * Result: the count, 0 if nothing visible is there; -1 if the directory cannot be opened.
+ */
+TAVIK_API int32_t check_dir(const char* path);
+
+/*
+ * Calls callback(context, line) for each line of a text file, whatever its length. The line holds
+ * its LF, which the last line of a file may lack; it is writable and lives until its callback
+ * returns, whose result is ignored. A null callback only reads. A read error ends the file.
+ *
+ * Result: that of fclose(), 0 as a rule; -1 if the file cannot be opened or there is no memory.
+ */
+TAVIK_API int32_t rd_file_line(const char* path, int32_t (*callback)(uintptr_t context, char* line),
+                               uintptr_t context);
+
+/*
+ * Replaces every byte that equals from by the low 8 bits of to, in place. A from of 0 or above 255
+ * matches nothing. A to of 0 puts NULs into the text without ending the work.
+ */
+TAVIK_API void str_replace_chr(char* text, uint32_t from, uint32_t to);
+
 /* ============================================================================================
  * Form fields
  *

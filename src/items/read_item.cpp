@@ -3,20 +3,11 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "items/control_char.h"
 #include "items/unique_fd.h"
 #include "tavik.h"
 
 using tavik::UniqueFd;
-
-namespace {
-
-// The C locale's iscntrl(), whatever locale the page has set.
-bool is_control(char c) {
-  const auto byte = static_cast<unsigned char>(c);
-  return byte < 0x20 || byte == 0x7F;
-}
-
-}  // namespace
 
 int32_t read_item_fd(int32_t fd, char* buffer, int32_t count) {
   if (fd < 0) return fd;
@@ -24,7 +15,7 @@ int32_t read_item_fd(int32_t fd, char* buffer, int32_t count) {
   const int32_t got = full_read_fd(fd, buffer, count);
   if (got < 0) return got;
   int32_t length = 0;
-  while (length < got && !is_control(buffer[length])) ++length;
+  while (length < got && !tavik::is_control(buffer[length])) ++length;
   buffer[length] = '\0';
   return length;
 }

@@ -10,6 +10,15 @@
 
 namespace test {
 
+// Takes all that was written to a memory file, and closes it.
+inline std::string take_text(int file) {
+  std::string text(static_cast<size_t>(lseek(file, 0, SEEK_END)), '\0');
+  const ssize_t got = pread(file, text.data(), text.size(), 0);
+  close(file);
+  text.resize(got < 0 ? 0 : static_cast<size_t>(got));
+  return text;
+}
+
 template <typename Body>
 std::string printed(Body body) {
   fflush(stdout);
@@ -20,11 +29,7 @@ std::string printed(Body body) {
   fflush(stdout);
   dup2(saved, STDOUT_FILENO);
   close(saved);
-  std::string text(static_cast<size_t>(lseek(file, 0, SEEK_END)), '\0');
-  const ssize_t got = pread(file, text.data(), text.size(), 0);
-  close(file);
-  text.resize(got < 0 ? 0 : static_cast<size_t>(got));
-  return text;
+  return take_text(file);
 }
 
 }  // namespace test
