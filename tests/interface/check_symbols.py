@@ -1,0 +1,58 @@
+"""Compares what the header declares with the export map and with the built library.
+
+Fails on a missing or extra name, an undocumented prototype, a C++ runtime symbol, and a needed
+library other than libc (on 32-bit ARM also the loader, for the stack protector).
+"""
+import re
+import subprocess
+import sys
+
+
+def read(path):
+    with open(path, encoding="utf-8") as file:
+        return file.read()
+
+
+def declared(header):
+    """The declared names, and those whose prototype has no comment directly ahead of it."""
+    names, bare = [], []
+    for match in re.finditer(r"^TAVIK_API\s[^;]*?(\w+)\(", header, re.MULTILINE):
+        names.append(match.group(1))
+        if not header[: match.start()].endswith("*/\n"):
+            bare.append(match.group(1))
+    return names, bare
+
+
+def tool(*words):
+    return subprocess.run(words, check=True, capture_output=True, text=True).stdout
+
+
+def main(library, header_path, map_path, nm, readelf):
+    names, bare = declared(read(header_path))
+    listed = re.findall(r"^\s*(\w+);$", read(map_path), re.MULTILINE)
+    dynamic = [line.split() for line in tool(nm, "-D", library).splitlines()]
+    exported = [words[-1] for words in dynamic if words[-2] not in "Uw"]
+    runtime = [words[-1] for words in dynamic
+               if re.match(r"_Z|__gxx|_Unwind|__cxa_(?!finalize)", words[-1])]
+    needed = re.findall(r"\(NEEDED\).*\[(.*)\]", tool(readelf, "-d", library))
+    foreign = [name for name in needed if not re.match(r"libc\.so|ld-linux-armhf\.so", name)]
+
+    problems = {
+        "without a comment": bare,
+        "declared twice": [name for name in set(names) if names.count(name) > 1],
+        "declared, not in the map": sorted(set(names) - set(listed)),
+        "in the map, not declared": sorted(set(listed) - set(names)),
+        "declared, not exported": sorted(set(names) - set(exported)),
+        "exported, not declared": sorted(set(exported) - set(names)),
+        "C++ runtime symbols": runtime,
+        "needed libraries": foreign,
+    }
+    for title, found in problems.items():
+        if found:
+            print(f"{title}: {', '.join(found)}")
+    print(f"{len(names)} functions declared, {len(exported)} exported")
+    return 1 if any(problems.values()) or not names else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main(*sys.argv[1:]))

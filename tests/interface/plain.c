@@ -1,0 +1,123 @@
+/*
+ * A plain C program that knows nothing but the public header. It calls the interface's functions
+ * in the order of the header and checks one plain result of each.
+ */
+#define _GNU_SOURCE
+#include <tavik.h>
+
+#include <fcntl.h>
+#include <stdlib.h>
+#include <string.h>
+#include <unistd.h>
+
+static int failures;
+
+#define CHECK(condition)                                                                          \
+  do {                                                                                            \
+    if (!(condition)) failures++, fprintf(stderr, "%s:%d: %s\n", __FILE__, __LINE__, #condition); \
+  } while (0)
+
+static int32_t count_query(void* context, cgi_attr* attrs, int32_t count, int32_t kind) {
+  *(int32_t*)context = kind;
+  return count + (attrs->parent == NULL ? 0 : 100);
+}
+
+static void request(void) {
+  int32_t kind = -1;
+  setenv("REQUEST_METHOD", "GET", 1);
+  setenv("QUERY_STRING", "a=1&b=2", 1);
+  CHECK(getcgivars(&kind, count_query, NULL) == 2 && kind == CGI_KIND_QUERY);
+}
+
+static void output(void) {
+  const char* text = "\xC3\xA9";
+  const char* cursor = text;
+  uint32_t bytes = 0;
+  char buffer[8] = "";
+  char* heap = NULL;
+  CHECK(utf8_to_ucs2(&cursor, UINT32_MAX) == 0xE9);
+  CHECK(ucs2_to_utf8(buffer, 8, 0xE9) == buffer + 2);
+  CHECK(utf8_length(text, 9, &bytes) == 1 && bytes == 2);
+  CHECK(strsncpy(buffer, sizeof buffer, "abc") == 3);
+  CHECK(print_mem("ab", 2) == 2);
+  CHECK(print_str("abc") == 3);
+  CHECK(print_str_xcrlf("a\n") == 3);
+  CHECK(html_print_ucs2('<') == 4);
+  CHECK(html_print_text(text) == 8);
+  CHECK(html_print_text_limit(1, "ab", UINT32_MAX) == 1);
+  CHECK(html_print_text_nl("\n") == 4);
+  CHECK(html_asprint_text(&heap, text) == 4096 && strcmp(heap, "&eacute;") == 0);
+  free(heap);
+  CHECK(asprint_title(&heap, "a") == 10);
+  free(heap);
+  print_num_str_mark("1234", ",");
+  CHECK(print_fsize(1) == 12);
+  int fd = open("/dev/null", O_RDONLY);
+  CHECK(print_fd(fd) == 0);
+  close(fd);
+}
+
+static int32_t path_length(const char* path, int32_t first, uint32_t second) {
+  return (int32_t)strlen(path) + first + (int32_t)second;
+}
+
+static int32_t ignore_word(uintptr_t context, char* word) {
+  *(int*)context += (int)strlen(word);
+  return 0;
+}
+
+static int32_t plus_one(uint32_t value) {
+  return (int32_t)value + 1;
+}
+
+static void items(const char* directory) {
+  char buffer[16];
+  char* heap = NULL;
+  uint32_t number = 0;
+  int32_t signed_number = 0;
+  int letters = 0;
+  CHECK(_func_path_name(path_length, "a", "b", 1, 1) == 5);
+  CHECK(create_item(directory, "text", "a bc", 9) == 5);
+  CHECK(create_item_uint(directory, "number", 7) == 2);
+  CHECK(create_concat_item(directory, "joined", "1", "2") == 3);
+  CHECK(stat_item(directory, "text") == 0);
+  CHECK(read_item(directory, "text", buffer, 15) == 4);
+  CHECK(read_items_str(ignore_word, (uintptr_t)&letters, directory, "text") == 4 && letters == 3);
+  CHECK(read_item_alloc(directory, "text", &heap) == 4);
+  free(heap);
+  CHECK(read_item_uint(directory, "number", &number) == 1 && number == 7);
+  CHECK(read_item_uint_fmt(&number, "%s/joined", directory) == 2 && number == 12);
+  CHECK(read_item_sint(directory, "number", &signed_number) == 1 && signed_number == 7);
+  CHECK(call_uint(directory, "number", plus_one) == 8);
+  int fd = open_path_name(directory, "number", O_RDWR, 0);
+  CHECK(read_item_uint_fd(fd, &number) == 1);
+  CHECK(read_item_sint_fd(fd, &signed_number) == 0);
+  CHECK(read_item_fd(fd, buffer, 15) == 0);
+  CHECK(read_item_alloc_fd(fd, &heap, 1) == 0);
+  free(heap);
+  CHECK(full_write_fd(fd, "x", 1) == 1);
+  CHECK(full_read_fd(fd, buffer, 1) == 0);
+  CHECK(full_copy_fd(fd, fd) == 0);
+  close(fd);
+  CHECK(str_to_uint("12") == 12);
+  CHECK(str_to_sint("-12") == -12);
+  CHECK(bool_to_uint("true") == 1);
+  CHECK(update_item(directory, "text", "a bc", 9) == 0);
+  CHECK(compare_item(directory, "text", "new", 9) == 1);
+  CHECK(update_item_uint(directory, "joined", 12) == 0);
+  CHECK(write_item_uint(directory, "number", 9) == 2);
+  CHECK(write_item_text(directory, "text", "new") == 4);
+  CHECK(remove_item(directory, "text") == 0);
+  remove_item(directory, "number");
+  remove_item(directory, "joined");
+}
+
+int main(void) {
+  char directory[] = "tavik-XXXXXX";
+  if (mkdtemp(directory) == NULL) return 1;
+  request();
+  output();
+  items(directory);
+  rmdir(directory);
+  return failures != 0;
+}
