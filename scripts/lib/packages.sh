@@ -22,3 +22,21 @@ need() {
 need_build_tools() {
   need g++=g++ cmake=cmake ninja=ninja-build pkg-config=pkg-config
 }
+
+need_test_tools() {
+  need /usr/include/gtest/gtest.h=libgtest-dev /usr/include/gmock/gmock.h=libgmock-dev \
+    python3=python3 busybox=busybox node=nodejs npm=npm chromium=chromium
+}
+
+need_check_tools() {
+  need clang-format=clang-format clang-tidy=clang-tidy valgrind=valgrind shellcheck=shellcheck \
+    git=git
+}
+
+# The npm packages of the end-to-end tests, unless they are the locked ones already.
+install_e2e_packages() {
+  cmp -s tests/e2e/package-lock.json tests/e2e/node_modules/.installed-lock && return
+  echo "Installing the end-to-end tests' npm packages"
+  npm ci --prefix tests/e2e --no-audit --no-fund --loglevel=error >/dev/null
+  cp tests/e2e/package-lock.json tests/e2e/node_modules/.installed-lock
+}

@@ -9,7 +9,7 @@ DESTDIR=$root cmake --install "$build" --prefix /opt/tavik >/dev/null
 PKG_CONFIG_PATH=$(dirname "$(find "$root" -name tavik.pc)")
 export PKG_CONFIG_PATH
 # shellcheck disable=SC2046  # the flags are words
-"$compiler" -std=c99 -pedantic -Wall -Wextra -Werror ${CFLAGS:-} "$source" -o "$root/program" \
+"$compiler" -std=c99 -pedantic -Wall -Wextra -Werror "$source" -o "$root/program" \
   $(pkg-config --cflags --libs tavik)
 cd "$root"
 LD_LIBRARY_PATH=$(pkg-config --variable=libdir tavik) ./program
