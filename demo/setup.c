@@ -9,29 +9,29 @@
 #include "tavik.h"
 
 static const struct {
-  const char *name;
-  const char *value;
+  const char* name;
+  const char* value;
 } items[] = {
     {"owner", "Network team"},
     {"place", "Rack 4, below the patch panel"},
     {"remark", ""},
 };
 
-static int fail(const char *what) {
+static int fail(const char* what) {
   fprintf(stderr, "setup: %s: %s\n", what, strerror(errno));
   return 1;
 }
 
-int main(int argc, char **argv) {
+int main(int argc, char** argv) {
   if (argc != 2) {
     fprintf(stderr, "usage: setup STATE_FOLDER\n");
     return 2;
   }
-  const char *folder = argv[1];
+  const char* folder = argv[1];
   if (mkdir(folder, 0700) != 0 && errno != EEXIST) return fail(folder);
   if (chmod(folder, 0700) != 0) return fail(folder);
   for (size_t i = 0; i < sizeof items / sizeof *items; i++) {
-    const char *value = items[i].value;
+    const char* value = items[i].value;
     if (stat_item(folder, items[i].name) == 0) continue;
     if (create_item(folder, items[i].name, value, (int32_t)strlen(value)) < 0) {
       return fail(items[i].name);

@@ -9,17 +9,17 @@
 enum { NOTE_COUNT = 3, NOTE_CHARACTERS = 100, NOTE_SIZE = 3 * NOTE_CHARACTERS };
 
 static const struct {
-  const char *name;
-  const char *label;
+  const char* name;
+  const char* label;
 } notes[NOTE_COUNT] = {{"owner", "Owner"}, {"place", "Place"}, {"remark", "Remark"}};
 
 /* What became of each note; empty for one that was not submitted. */
 struct outcome {
-  const char *directory;
-  const char *words[NOTE_COUNT];
+  const char* directory;
+  const char* words[NOTE_COUNT];
 };
 
-static const char *store(const char *directory, const char *name, char *value) {
+static const char* store(const char* directory, const char* name, char* value) {
   uint32_t bytes = 0;
   utf8_length(value, NOTE_CHARACTERS, &bytes);
   value[bytes] = '\0';
@@ -29,8 +29,8 @@ static const char *store(const char *directory, const char *name, char *value) {
   return result > 0 ? "changed" : "unchanged";
 }
 
-static int32_t take_values(void *context, cgi_attr *attrs, int32_t count, int32_t kind) {
-  struct outcome *outcome = context;
+static int32_t take_values(void* context, cgi_attr* attrs, int32_t count, int32_t kind) {
+  struct outcome* outcome = context;
   (void)kind;
   for (int32_t i = 0; i < count; i++) {
     for (int n = 0; n < NOTE_COUNT; n++) {
@@ -41,7 +41,7 @@ static int32_t take_values(void *context, cgi_attr *attrs, int32_t count, int32_
   return 0;
 }
 
-static void print_note(const struct outcome *outcome, int n) {
+static void print_note(const struct outcome* outcome, int n) {
   char value[NOTE_SIZE + 1];
   read_item(outcome->directory, notes[n].name, value, NOTE_SIZE);
   printf("<p><label>%s <input name=\"%s\" value=\"", notes[n].label, notes[n].name);
@@ -51,7 +51,7 @@ static void print_note(const struct outcome *outcome, int n) {
   print_str("</p>\r\n");
 }
 
-static void print_form(const struct outcome *outcome, const char *method) {
+static void print_form(const struct outcome* outcome, const char* method) {
   printf("<form method=\"%s\">\r\n", method);
   for (int n = 0; n < NOTE_COUNT; n++) print_note(outcome, n);
   printf("<p><button>Save by %s</button></p>\r\n</form>\r\n", method);
