@@ -843,6 +843,101 @@ TAVIK_API const char* get_progname(uint32_t count, const char* path);
 
 /* ---- Row tables ---------------------------------------------------------------------------- */
 
+/*
+ * What a row record of a table begins with; the page's own fields stand behind it. A table is a
+ * list of such records that gives each its row number, and every operation walks the whole table.
+ * Rows stay where they are in memory, so pointers to them last as long as the rows.
+ */
+typedef struct xtable_row xtable_row;
+struct xtable_row {
+  xtable_row* prev; /* null in the first row */
+  xtable_row* next; /* null in the last row */
+  uint32_t index;   /* the row number; that of the last row is the number of rows */
+};
+
+/* A table. All bytes 0 is an empty one. */
+typedef struct xtable xtable;
+struct xtable {
+  xtable_row* head; /* the first row, null in an empty table */
+  xtable_row* tail; /* the last row, null in an empty table */
+};
+
+/*
+ * Appends a new row of size bytes, those of the prefix included, and numbers the table. Behind the
+ * prefix all bytes are 0.
+ *
+ * Result: the row, which belongs to the table; null, with the table as it was, if there is no
+ * memory or size is less than the prefix takes.
+ */
+TAVIK_API xtable_row* xtable_new_row(xtable* table, uint32_t size);
+
+/*
+ * Appends a row of the caller's, a block from malloc(), which belongs to the table from then on. It
+ * gets no number: xtable_index_row() is called once all are in.
+ */
+TAVIK_API void xtable_add_row(xtable* table, xtable_row* row);
+
+/*
+ * Takes a row out of the table it is in, which is not checked, and frees it. The rows behind it
+ * keep their numbers: xtable_index_row() is called once all are out.
+ */
+TAVIK_API void xtable_rm_row(xtable* table, xtable_row* row);
+
+/*
+ * Numbers the rows 1, 2, 3 and so on.
+ *
+ * Result: the number of rows.
+ */
+TAVIK_API uint32_t xtable_index_row(xtable* table);
+
+/*
+ * Looks a row up by the number it bears, whether or not that is its place.
+ *
+ * Result: the first such row, or null.
+ */
+TAVIK_API xtable_row* xtable_search_row(xtable* table, uint32_t index);
+
+/*
+ * Takes the row with a number out of the table, frees it, and numbers the table.
+ *
+ * Result: 1; 0 if there is no such row.
+ */
+TAVIK_API int32_t xtable_del_row(xtable* table, uint32_t index);
+
+/*
+ * Swaps the row with a number and the row before it, and numbers the table: a second call with the
+ * same number moves the other row back up.
+ *
+ * Result: 1; 0, with the table as it was, if there is no such row or it is the first.
+ */
+TAVIK_API int32_t xtable_move_up_row(xtable* table, uint32_t index);
+
+/*
+ * Swaps the row with a number and the row behind it, as xtable_move_up_row() does.
+ *
+ * Result: 1; 0, with the table as it was, if there is no such row or it is the last.
+ */
+TAVIK_API int32_t xtable_move_dn_row(xtable* table, uint32_t index);
+
+/*
+ * Sorts a numbered table with qsort() and numbers it again. What is sorted is an array of pointers
+ * to rows: width is sizeof(xtable_row*), not the size of a record, and the arguments of compare
+ * point to such pointers. Rows that compare as equal stand as qsort() left them.
+ *
+ * A table of one row is not looked at. No other width, a null compare, a number of the last row
+ * that is not the count of rows, and lack of memory leave the order as it was.
+ *
+ * Result: 0 for a null or empty table, or a last row that bears the number 0; 1 in all other cases,
+ * sorted or not.
+ */
+TAVIK_API uint32_t xtable_sort(xtable* table, uint32_t width,
+                               int (*compare)(const void* left, const void* right));
+
+/*
+ * Frees all rows. The table is empty then and can be used again.
+ */
+TAVIK_API void xtable_cleanup(xtable* table);
+
 /* ---- XML ----------------------------------------------------------------------------------- */
 
 /* ---- Base64 -------------------------------------------------------------------------------- */
