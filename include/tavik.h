@@ -657,6 +657,93 @@ TAVIK_API void str_replace_chr(char* text, uint32_t from, uint32_t to);
 /* ---- Select boxes -------------------------------------------------------------------------- */
 
 /*
+ * A select box holds no table: its options come from a function that is asked for each index. The
+ * words of the questions, with what the answer's number means:
+ */
+#define SELECT_OP_SHOW 0U  /* offer this index? negative: the list ends here; 0: no, go on */
+#define SELECT_OP_VALUE 1U /* print the value; not 0, negative included: it is selected */
+#define SELECT_OP_LABEL 2U /* print the label; the answer is ignored */
+#define SELECT_OP_ATTRS 3U /* print more attributes of the select tag; the answer is ignored */
+
+/*
+ * The function that answers for a select box. context and arg are passed on untouched; index
+ * counts from 0, and is 0 for SELECT_OP_ATTRS. What it prints goes into the page as it is: values
+ * and labels are its own to escape, and attributes carry a leading blank.
+ */
+typedef int32_t (*selectbox_class)(void* context, uint32_t operation, uint32_t index,
+                                   uintptr_t arg);
+
+/* The page's function behind gen_selectbox_num() and gen_selectbox_text(): a class less context. */
+typedef int32_t (*selectbox_callback)(uint32_t operation, uint32_t index, uintptr_t arg);
+
+/* A select field as the page holds it. */
+typedef struct select_state select_state;
+struct select_state {
+  uint32_t flags; /* print flags of the tag; PF_DISABLED for a value that could not be read */
+  union {
+    uint32_t index;   /* numeric select: the selected index */
+    const char* text; /* text select: the selected row's value, never null */
+  } value;
+};
+
+/* One row of a text select. */
+typedef struct selectbox_text_option selectbox_text_option;
+struct selectbox_text_option {
+  const char* value; /* what is submitted and stored */
+  const char* label; /* what the user sees */
+};
+
+/*
+ * The page's function that gives the rows of a text select, index from 0; arg is passed on
+ * untouched. It is asked many times for the same index and always answers alike. Both fields of out
+ * are null beforehand. It fills in texts that stay valid as long as the field's state, and with
+ * them no buffer that it uses again.
+ *
+ * Result: positive for a row, which then has a value; 0 if the row is skipped; negative if the
+ * list ends. Rows behind index 255 are not asked for.
+ */
+typedef int32_t (*selectbox_text_row)(uint32_t index, uintptr_t arg, selectbox_text_option* out);
+
+/*
+ * Prints a select box, a CR LF behind the select tags and each option. The tag gets the name, as it
+ * is and none for null, then what SELECT_OP_ATTRS prints, then the attributes of the flag word. For
+ * each index below count SELECT_OP_SHOW decides whether there is an option, which then takes
+ * SELECT_OP_VALUE and SELECT_OP_LABEL. With a null function the box has no options.
+ */
+TAVIK_API void gen_selectbox_class(void* context, const char* name, selectbox_class options,
+                                   uintptr_t arg, uint32_t count, uint32_t flags);
+
+/*
+ * Prints the value of a numeric select's option in decimal.
+ *
+ * Result: 1 if it is the current value, else 0.
+ */
+TAVIK_API int32_t selectbox_num_show_value(uint32_t value, uint32_t current);
+
+/*
+ * Prints a numeric select, in which an option's value is its index, as gen_selectbox_class() does.
+ * The callback is asked for SELECT_OP_SHOW and SELECT_OP_LABEL of at most 256 indexes, and for
+ * SELECT_OP_ATTRS if attributes is null; attributes and name go out as they are. A null state
+ * prints a disabled box with index 0 selected.
+ *
+ * Result: the flag word of the tag: the state's, or PF_DISABLED for a null state.
+ */
+TAVIK_API uint32_t gen_selectbox_num(const select_state* state, const char* name,
+                                     selectbox_callback callback, uintptr_t arg,
+                                     const char* attributes) TAVIK_NONNULL(3);
+
+/*
+ * Prints a numeric select as gen_selectbox_num() does, with what a printf format yields, printed as
+ * it is, for name and attributes. If format is null, or its text cannot be made, the callback is
+ * asked for SELECT_OP_ATTRS.
+ *
+ * Result: as gen_selectbox_num().
+ */
+TAVIK_API uint32_t gen_xselectbox_num(const select_state* state, selectbox_callback callback,
+                                      uintptr_t arg, const char* format, ...) TAVIK_NONNULL(2)
+TAVIK_PRINTF(4, 5);
+
+/*
  * Takes the index of a numeric select off a submitted text: decimal digits behind leading blanks
  * (0x20 only), modulo 2^32, with whatever follows them ignored. Without a digit it is
  * default_value. An index of count or more, the default's too, becomes count - 1; with a count of 0
@@ -667,7 +754,90 @@ TAVIK_API void str_replace_chr(char* text, uint32_t from, uint32_t to);
 TAVIK_API int32_t scan_select_num(const char* text, uint32_t* current, uint32_t count,
                                   uint32_t default_value);
 
+/*
+ * Prints a text select as gen_selectbox_class() does, with values and labels escaped and every row
+ * of the current value selected. name and attributes go out as they are; either may be null.
+ *
+ * A callback, unless null, takes over SELECT_OP_SHOW, where the rows' own results then no longer
+ * count, SELECT_OP_LABEL, and, if attributes is null, SELECT_OP_ATTRS.
+ *
+ * Result: the state's flag word; PF_DISABLED, with nothing printed, if state or row is null.
+ */
+TAVIK_API uint32_t gen_selectbox_text(const select_state* state, const char* name,
+                                      selectbox_text_row row, selectbox_callback callback,
+                                      uintptr_t arg, const char* attributes);
+
+/*
+ * Looks a submitted text up among the rows, byte for byte, and takes the first row's own value,
+ * not a copy, into the state. A text that is no row's value is ignored.
+ *
+ * Result: 1 if the value differed and was taken; 0 otherwise, with the state untouched.
+ */
+TAVIK_API int32_t scan_select_text(const char* text, select_state* state, selectbox_text_row row,
+                                   uintptr_t arg);
+
+/*
+ * Reads an item and looks its value up among the rows. The state's value becomes the first row's
+ * own, or default_value for a stored text that is no row's. Only as many bytes as the longest row's
+ * value has are read, so that a longer stored text is cut before it is compared.
+ *
+ * The state's flags are overwritten: 0 if something was read, PF_DISABLED if the item is empty or
+ * unreadable, when the value is that of a row with an empty value, or default_value.
+ */
+TAVIK_API void rd_selectbox_text_item(const char* directory, const char* name, select_state* state,
+                                      selectbox_text_row row, uintptr_t arg,
+                                      const char* default_value);
+
 /* ---- Check and number boxes ---------------------------------------------------------------- */
+
+/*
+ * Makes a flag word out of two truth values.
+ *
+ * Result: PF_CHECKED if checked is not 0, with PF_DISABLED if disabled is not 0.
+ */
+TAVIK_API uint32_t checkbox_flags(uint32_t checked, uint32_t disabled);
+
+/*
+ * Prints a check box: what the format yields, as it is, then the attributes of the flag word. Name
+ * and value are the format's to give; it may be null.
+ *
+ * Result: that of printing the closing ">", EOF on failure.
+ */
+TAVIK_API int32_t gen_xcheckbox(uint32_t flags, const char* format, ...) TAVIK_PRINTF(2, 3);
+
+/*
+ * Reads the item of a check box, as read_item_uint() does.
+ *
+ * Result: the flag word given, with PF_CHECKED for any number but 0 and without it for 0 and for an
+ * empty item; if the item cannot be read, with PF_DISABLED and PF_CHECKED as it was.
+ */
+TAVIK_API uint32_t rd_checkbox_item(const char* directory, const char* name, uint32_t flags);
+
+/*
+ * Stores PF_CHECKED of a flag word, as "1" or "0".
+ *
+ * Result: as update_item().
+ */
+TAVIK_API int32_t wr_checkbox_item(const char* directory, const char* name, uint32_t flags);
+
+/*
+ * Prints a number box: the name, as it is and none for null, then size, maxlength (in characters)
+ * and value, always all three, then the attributes of the flag word.
+ *
+ * Result: that of printing the closing ">", EOF on failure.
+ */
+TAVIK_API int32_t gen_numberbox(const char* field_name, uint32_t size, uint32_t maxlength,
+                                uint32_t value, uint32_t flags);
+
+/*
+ * Prints a number box without a size: maxlength (in characters), which PF_READONLY drops, the
+ * value, what the format yields, as it is, and the attributes of the flag word. The name is the
+ * format's to give; it may be null.
+ *
+ * Result: that of printing the closing ">", EOF on failure.
+ */
+TAVIK_API int32_t gen_xnumberbox(uint32_t maxlength, uint32_t value, uint32_t flags,
+                                 const char* format, ...) TAVIK_PRINTF(4, 5);
 
 /*
  * Takes a number off a submitted text: decimal digits behind leading blanks (0x20 only), modulo
@@ -679,6 +849,45 @@ TAVIK_API int32_t scan_select_num(const char* text, uint32_t* current, uint32_t 
  */
 TAVIK_API int32_t scan_number(const char* text, uint32_t* current, uint32_t minimum,
                               uint32_t maximum, uint32_t default_value);
+
+/*
+ * Reads the item of a number box, as read_item_uint() does, into *value; value may be null. An
+ * empty or unreadable item gives default_value.
+ *
+ * Result: PF_DISABLED if the item cannot be read, else 0, for an empty one too.
+ */
+TAVIK_API uint32_t rd_numberbox_item(const char* directory, const char* name, uint32_t* value,
+                                     uint32_t default_value);
+
+/*
+ * Stores a number in decimal.
+ *
+ * Result: as update_item().
+ */
+TAVIK_API int32_t wr_numberbox_item(const char* directory, const char* name, uint32_t value);
+
+/*
+ * Prints the number box of an item, as rd_numberbox_item() and gen_numberbox() do, with a maxlength
+ * of 15. field_name is the control's name and may be null.
+ *
+ * Result: the flag word, with PF_DISABLED if the item cannot be read; the box then shows
+ * default_value.
+ */
+TAVIK_API uint32_t gen_numberbox_item(const char* directory, const char* name,
+                                      const char* field_name, uint32_t size, uint32_t default_value,
+                                      uint32_t flags);
+
+/*
+ * Prints a number item as a JSON member, with a separator ahead of it if the flag word has
+ * PF_JSON_MORE: a bare number, default_value for an empty item, or null if the item cannot be read.
+ * PF_DISABLED in the flag word given does not make it null. The JSON name goes out as it is.
+ *
+ * Result: the flag word for the next member: with PF_JSON_MORE, and with PF_DISABLED if the item
+ * cannot be read. A null JSON name gives the word unchanged, with nothing read or printed.
+ */
+TAVIK_API uint32_t gen_json_number_item(const char* directory, const char* name,
+                                        const char* json_name, uint32_t default_value,
+                                        uint32_t flags);
 
 /* ---- Ranges, times, lists ------------------------------------------------------------------ */
 
@@ -706,6 +915,18 @@ TAVIK_API const char* scan_uint(const char* text, uint32_t* number);
  */
 TAVIK_API const char* scan_list_uint(const char* text, uint32_t* count, uint32_t* array,
                                      uint32_t capacity);
+
+/*
+ * Prints a range box: maxlength (in characters), which PF_READONLY drops, what the format yields,
+ * as it is, the attributes of the flag word, and only then the value. That is text, escaped, or,
+ * for a null text, the bounds: "5-7", "5" for equal bounds or a null last one, "-7" for a null
+ * first one, "-" if both are null. The name is the format's to give; it may be null.
+ *
+ * Result: that of printing the closing ">", EOF on failure.
+ */
+TAVIK_API int32_t gen_xrangebox(uint32_t maxlength, const uint32_t* first, const uint32_t* last,
+                                const char* text, uint32_t flags, const char* format, ...)
+    TAVIK_PRINTF(6, 7);
 
 /*
  * Takes a range off a submitted text: one or two numbers as scan_number() reads them, with "-" or
