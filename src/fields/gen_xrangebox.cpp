@@ -4,10 +4,6 @@
 
 namespace {
 
-[[gnu::format(printf, 1, 0)]] void print_format(const char* format, va_list arguments) {
-  if (format != nullptr) vprintf(format, arguments);
-}
-
 void print_bounds(const uint32_t* first, const uint32_t* last) {
   print_str(" value=\"");
   if (first != nullptr) printf("%u", *first);
@@ -27,7 +23,7 @@ int32_t gen_xrangebox(uint32_t maxlength, const uint32_t* first, const uint32_t*
   tavik::print_maxlength(maxlength, flags);
   va_list arguments;
   va_start(arguments, format);
-  print_format(format, arguments);
+  tavik::print_format(format, arguments);
   va_end(arguments);
   print_flags(flags);
   if (text != nullptr) {

@@ -19,4 +19,8 @@ void print_maxlength(uint32_t maximum, uint32_t flags) {
   if ((flags & PF_READONLY) == 0) printf(" maxlength=\"%u\"", maximum);
 }
 
+void print_format(const char* format, va_list arguments) {
+  if (format != nullptr) vprintf(format, arguments);
+}
+
 }  // namespace tavik
