@@ -1023,6 +1023,17 @@ TAVIK_API const char* cron_weekdays(char* buffer, uint32_t size, uint32_t mask);
  * ========================================================================================= */
 
 /*
+ * Runs the command that a printf format yields and prints its output, each line when it arrives, as
+ * print_xstr() does. PF_COMMENT and PF_PRE wrap the output, an empty one too, in "<!--" and "-->"
+ * and inside these in "<pre>" and "</pre>". With PF_QUIET nothing is printed at all.
+ *
+ * Result: the command's status; -1 if the command cannot be formed, where nothing is printed, if
+ * the shell cannot be started or waited for, or without memory for a line, where "unable to run
+ * script!" and a line feed stand at the end of the output, inside the wrappers and unescaped.
+ */
+TAVIK_API int32_t run_shell(uint32_t flags, const char* format, ...) TAVIK_PRINTF(2, 3);
+
+/*
  * Runs a command and stores its whole output in out, as a text that the caller frees. One line feed
  * at its end is taken off. If memory runs out on the way the text is cut short. The command's
  * status is not told: a failing command gives what it printed.
@@ -1041,6 +1052,48 @@ TAVIK_API int32_t asprint_shell(char** out, const char* command);
  * untouched.
  */
 TAVIK_API int32_t asprint_title_shell(char** out, const char* command);
+
+/* One captured line, a heap block of its own. */
+typedef struct shell_output_line shell_output_line;
+struct shell_output_line {
+  shell_output_line* next;   /* null at the end */
+  uint32_t length;           /* that of text, in bytes */
+  __extension__ char text[]; /* with the line feed that ends it, if there was one */
+};
+
+/*
+ * A list of captured lines. shell_run() fills it, any number of times; one call of shell_print() or
+ * shell_line() then frees the lines and leaves the record as it is: clear it before the next use.
+ */
+typedef struct shell_output shell_output;
+struct shell_output {
+  shell_output_line* first; /* null if there is none */
+  uint32_t count;           /* the lines added */
+};
+
+/*
+ * Runs the command that a printf format yields and adds the lines of its output to a list, behind
+ * those of earlier runs. A line ends at its first NUL byte; one that begins with it, or for which
+ * there is no memory, is dropped. With a null list the command runs all the same.
+ *
+ * Result: the command's status; -1, with what was stored left in the list, if the command cannot be
+ * formed, the shell cannot be started or waited for, or without memory for a line.
+ */
+TAVIK_API int32_t shell_run(shell_output* list, const char* format, ...) TAVIK_PRINTF(2, 3);
+
+/*
+ * Prints the lines of a list, escaped, or as they are with PF_RAW, and frees them. PF_COMMENT and
+ * PF_PRE wrap the output as run_shell() does, but an empty list prints nothing; PF_CRLF has no
+ * effect.
+ */
+TAVIK_API void shell_print(shell_output* list, uint32_t flags);
+
+/*
+ * Calls callback(context, text) for each line of a list, in order, and frees the lines, each when
+ * its callback has returned. The result of the callback is ignored; a null callback only frees.
+ */
+TAVIK_API void shell_line(shell_output* list, int32_t (*callback)(uintptr_t context, char* text),
+                          uintptr_t context);
 
 /*
  * Sends a signal to the process whose number an item holds.
