@@ -12,6 +12,7 @@ namespace test {
 struct Answer {
   int error = 0;     // not 0: the call fails with this errno
   ssize_t most = 0;  // otherwise at most so many bytes go through; 0 is a plain answer of 0
+  const char* text = nullptr;  // a read delivers these bytes in place of the descriptor's
 };
 
 // While it lives, calls on descriptor fd get the answers in order; when these are used up, calls
