@@ -658,6 +658,93 @@ TAVIK_API void str_replace_chr(char* text, uint32_t from, uint32_t to);
 /* ---- Select boxes -------------------------------------------------------------------------- */
 
 /*
+ * A select box holds no table: its options come from a function that is asked for each index. The
+ * words of the questions, with what the answer's number means:
+ */
+#define SELECT_OP_SHOW 0U  /* offer this index? negative: the list ends here; 0: no, go on */
+#define SELECT_OP_VALUE 1U /* print the value; not 0, negative included: it is selected */
+#define SELECT_OP_LABEL 2U /* print the label; the answer is ignored */
+#define SELECT_OP_ATTRS 3U /* print more attributes of the select tag; the answer is ignored */
+
+/*
+ * The function that answers for a select box. context and arg are passed on untouched; index
+ * counts from 0, and is 0 for SELECT_OP_ATTRS. What it prints goes into the page as it is: values
+ * and labels are its own to escape, and attributes carry a leading blank.
+ */
+typedef int32_t (*selectbox_class)(void* context, uint32_t operation, uint32_t index,
+                                   uintptr_t arg);
+
+/* The page's function behind gen_selectbox_num() and gen_selectbox_text(): a class less context. */
+typedef int32_t (*selectbox_callback)(uint32_t operation, uint32_t index, uintptr_t arg);
+
+/* A select field as the page holds it. */
+typedef struct select_state select_state;
+struct select_state {
+  uint32_t flags; /* print flags of the tag; PF_DISABLED for a value that could not be read */
+  union {
+    uint32_t index;   /* numeric select: the selected index */
+    const char* text; /* text select: the selected row's value, never null */
+  } value;
+};
+
+/* One row of a text select. */
+typedef struct selectbox_text_option selectbox_text_option;
+struct selectbox_text_option {
+  const char* value; /* what is submitted and stored */
+  const char* label; /* what the user sees */
+};
+
+/*
+ * The page's function that gives the rows of a text select, index from 0; arg is passed on
+ * untouched. It is asked many times for the same index and always answers alike. Both fields of out
+ * are null beforehand. It fills in texts that stay valid as long as the field's state, and with
+ * them no buffer that it uses again.
+ *
+ * Result: positive for a row, which then has a value; 0 if the row is skipped; negative if the
+ * list ends. Rows behind index 255 are not asked for.
+ */
+typedef int32_t (*selectbox_text_row)(uint32_t index, uintptr_t arg, selectbox_text_option* out);
+
+/*
+ * Prints a select box, a CR LF behind the select tags and each option. The tag gets the name, as it
+ * is and none for null, then what SELECT_OP_ATTRS prints, then the attributes of the flag word. For
+ * each index below count SELECT_OP_SHOW decides whether there is an option, which then takes
+ * SELECT_OP_VALUE and SELECT_OP_LABEL. With a null function the box has no options.
+ */
+TAVIK_API void gen_selectbox_class(void* context, const char* name, selectbox_class options,
+                                   uintptr_t arg, uint32_t count, uint32_t flags);
+
+/*
+ * Prints the value of a numeric select's option in decimal.
+ *
+ * Result: 1 if it is the current value, else 0.
+ */
+TAVIK_API int32_t selectbox_num_show_value(uint32_t value, uint32_t current);
+
+/*
+ * Prints a numeric select, in which an option's value is its index, as gen_selectbox_class() does.
+ * The callback is asked for SELECT_OP_SHOW and SELECT_OP_LABEL of at most 256 indexes, and for
+ * SELECT_OP_ATTRS if attributes is null; attributes and name go out as they are. A null state
+ * prints a disabled box with index 0 selected.
+ *
+ * Result: the flag word of the tag: the state's, or PF_DISABLED for a null state.
+ */
+TAVIK_API uint32_t gen_selectbox_num(const select_state* state, const char* name,
+                                     selectbox_callback callback, uintptr_t arg,
+                                     const char* attributes) TAVIK_NONNULL(3);
+
+/*
+ * Prints a numeric select as gen_selectbox_num() does, with what a printf format yields, printed as
+ * it is, for name and attributes. If format is null, or its text cannot be made, the callback is
+ * asked for SELECT_OP_ATTRS.
+ *
+ * Result: as gen_selectbox_num().
+ */
+TAVIK_API uint32_t gen_xselectbox_num(const select_state* state, selectbox_callback callback,
+                                      uintptr_t arg, const char* format, ...) TAVIK_NONNULL(2)
+TAVIK_PRINTF(4, 5);
+
+/*
  * Takes the index of a numeric select off a submitted text: decimal digits behind leading blanks
  * (0x20 only), modulo 2^32, with whatever follows them ignored. Without a digit it is
  * default_value. An index of count or more, the default's too, becomes count - 1; with a count of 0
@@ -668,7 +755,90 @@ TAVIK_API void str_replace_chr(char* text, uint32_t from, uint32_t to);
 TAVIK_API int32_t scan_select_num(const char* text, uint32_t* current, uint32_t count,
                                   uint32_t default_value);
 
+/*
+ * Prints a text select as gen_selectbox_class() does, with values and labels escaped and every row
+ * of the current value selected. name and attributes go out as they are; either may be null.
+ *
+ * A callback, unless null, takes over SELECT_OP_SHOW, where the rows' own results then no longer
+ * count, SELECT_OP_LABEL, and, if attributes is null, SELECT_OP_ATTRS.
+ *
+ * Result: the state's flag word; PF_DISABLED, with nothing printed, if state or row is null.
+ */
+TAVIK_API uint32_t gen_selectbox_text(const select_state* state, const char* name,
+                                      selectbox_text_row row, selectbox_callback callback,
+                                      uintptr_t arg, const char* attributes);
+
+/*
+ * Looks a submitted text up among the rows, byte for byte, and takes the first row's own value,
+ * not a copy, into the state. A text that is no row's value is ignored.
+ *
+ * Result: 1 if the value differed and was taken; 0 otherwise, with the state untouched.
+ */
+TAVIK_API int32_t scan_select_text(const char* text, select_state* state, selectbox_text_row row,
+                                   uintptr_t arg);
+
+/*
+ * Reads an item and looks its value up among the rows. The state's value becomes the first row's
+ * own, or default_value for a stored text that is no row's. Only as many bytes as the longest row's
+ * value has are read, so that a longer stored text is cut before it is compared.
+ *
+ * The state's flags are overwritten: 0 if something was read, PF_DISABLED if the item is empty or
+ * unreadable, when the value is that of a row with an empty value, or default_value.
+ */
+TAVIK_API void rd_selectbox_text_item(const char* directory, const char* name, select_state* state,
+                                      selectbox_text_row row, uintptr_t arg,
+                                      const char* default_value);
+
 /* ---- Check and number boxes ---------------------------------------------------------------- */
+
+/*
+ * Makes a flag word out of two truth values.
+ *
+ * Result: PF_CHECKED if checked is not 0, with PF_DISABLED if disabled is not 0.
+ */
+TAVIK_API uint32_t checkbox_flags(uint32_t checked, uint32_t disabled);
+
+/*
+ * Prints a check box: what the format yields, as it is, then the attributes of the flag word. Name
+ * and value are the format's to give; it may be null.
+ *
+ * Result: that of printing the closing ">", EOF on failure.
+ */
+TAVIK_API int32_t gen_xcheckbox(uint32_t flags, const char* format, ...) TAVIK_PRINTF(2, 3);
+
+/*
+ * Reads the item of a check box, as read_item_uint() does.
+ *
+ * Result: the flag word given, with PF_CHECKED for any number but 0 and without it for 0 and for an
+ * empty item; if the item cannot be read, with PF_DISABLED and PF_CHECKED as it was.
+ */
+TAVIK_API uint32_t rd_checkbox_item(const char* directory, const char* name, uint32_t flags);
+
+/*
+ * Stores PF_CHECKED of a flag word, as "1" or "0".
+ *
+ * Result: as update_item().
+ */
+TAVIK_API int32_t wr_checkbox_item(const char* directory, const char* name, uint32_t flags);
+
+/*
+ * Prints a number box: the name, as it is and none for null, then size, maxlength (in characters)
+ * and value, always all three, then the attributes of the flag word.
+ *
+ * Result: that of printing the closing ">", EOF on failure.
+ */
+TAVIK_API int32_t gen_numberbox(const char* field_name, uint32_t size, uint32_t maxlength,
+                                uint32_t value, uint32_t flags);
+
+/*
+ * Prints a number box without a size: maxlength (in characters), which PF_READONLY drops, the
+ * value, what the format yields, as it is, and the attributes of the flag word. The name is the
+ * format's to give; it may be null.
+ *
+ * Result: that of printing the closing ">", EOF on failure.
+ */
+TAVIK_API int32_t gen_xnumberbox(uint32_t maxlength, uint32_t value, uint32_t flags,
+                                 const char* format, ...) TAVIK_PRINTF(4, 5);
 
 /*
  * Takes a number off a submitted text: decimal digits behind leading blanks (0x20 only), modulo
@@ -680,6 +850,45 @@ TAVIK_API int32_t scan_select_num(const char* text, uint32_t* current, uint32_t 
  */
 TAVIK_API int32_t scan_number(const char* text, uint32_t* current, uint32_t minimum,
                               uint32_t maximum, uint32_t default_value);
+
+/*
+ * Reads the item of a number box, as read_item_uint() does, into *value; value may be null. An
+ * empty or unreadable item gives default_value.
+ *
+ * Result: PF_DISABLED if the item cannot be read, else 0, for an empty one too.
+ */
+TAVIK_API uint32_t rd_numberbox_item(const char* directory, const char* name, uint32_t* value,
+                                     uint32_t default_value);
+
+/*
+ * Stores a number in decimal.
+ *
+ * Result: as update_item().
+ */
+TAVIK_API int32_t wr_numberbox_item(const char* directory, const char* name, uint32_t value);
+
+/*
+ * Prints the number box of an item, as rd_numberbox_item() and gen_numberbox() do, with a maxlength
+ * of 15. field_name is the control's name and may be null.
+ *
+ * Result: the flag word, with PF_DISABLED if the item cannot be read; the box then shows
+ * default_value.
+ */
+TAVIK_API uint32_t gen_numberbox_item(const char* directory, const char* name,
+                                      const char* field_name, uint32_t size, uint32_t default_value,
+                                      uint32_t flags);
+
+/*
+ * Prints a number item as a JSON member, with a separator ahead of it if the flag word has
+ * PF_JSON_MORE: a bare number, default_value for an empty item, or null if the item cannot be read.
+ * PF_DISABLED in the flag word given does not make it null. The JSON name goes out as it is.
+ *
+ * Result: the flag word for the next member: with PF_JSON_MORE, and with PF_DISABLED if the item
+ * cannot be read. A null JSON name gives the word unchanged, with nothing read or printed.
+ */
+TAVIK_API uint32_t gen_json_number_item(const char* directory, const char* name,
+                                        const char* json_name, uint32_t default_value,
+                                        uint32_t flags);
 
 /* ---- Ranges, times, lists ------------------------------------------------------------------ */
 
@@ -707,6 +916,18 @@ TAVIK_API const char* scan_uint(const char* text, uint32_t* number);
  */
 TAVIK_API const char* scan_list_uint(const char* text, uint32_t* count, uint32_t* array,
                                      uint32_t capacity);
+
+/*
+ * Prints a range box: maxlength (in characters), which PF_READONLY drops, what the format yields,
+ * as it is, the attributes of the flag word, and only then the value. That is text, escaped, or,
+ * for a null text, the bounds: "5-7", "5" for equal bounds or a null last one, "-7" for a null
+ * first one, "-" if both are null. The name is the format's to give; it may be null.
+ *
+ * Result: that of printing the closing ">", EOF on failure.
+ */
+TAVIK_API int32_t gen_xrangebox(uint32_t maxlength, const uint32_t* first, const uint32_t* last,
+                                const char* text, uint32_t flags, const char* format, ...)
+    TAVIK_PRINTF(6, 7);
 
 /*
  * Takes a range off a submitted text: one or two numbers as scan_number() reads them, with "-" or
@@ -883,6 +1104,17 @@ TAVIK_API int32_t set_link_pwrdown(const char* interface, uint32_t phy, int32_t 
  * ========================================================================================= */
 
 /*
+ * Runs the command that a printf format yields and prints its output, each line when it arrives, as
+ * print_xstr() does. PF_COMMENT and PF_PRE wrap the output, an empty one too, in "<!--" and "-->"
+ * and inside these in "<pre>" and "</pre>". With PF_QUIET nothing is printed at all.
+ *
+ * Result: the command's status; -1 if the command cannot be formed, where nothing is printed, if
+ * the shell cannot be started or waited for, or without memory for a line, where "unable to run
+ * script!" and a line feed stand at the end of the output, inside the wrappers and unescaped.
+ */
+TAVIK_API int32_t run_shell(uint32_t flags, const char* format, ...) TAVIK_PRINTF(2, 3);
+
+/*
  * Runs a command and stores its whole output in out, as a text that the caller frees. One line feed
  * at its end is taken off. If memory runs out on the way the text is cut short. The command's
  * status is not told: a failing command gives what it printed.
@@ -901,6 +1133,48 @@ TAVIK_API int32_t asprint_shell(char** out, const char* command);
  * untouched.
  */
 TAVIK_API int32_t asprint_title_shell(char** out, const char* command);
+
+/* One captured line, a heap block of its own. */
+typedef struct shell_output_line shell_output_line;
+struct shell_output_line {
+  shell_output_line* next;   /* null at the end */
+  uint32_t length;           /* that of text, in bytes */
+  __extension__ char text[]; /* with the line feed that ends it, if there was one */
+};
+
+/*
+ * A list of captured lines. shell_run() fills it, any number of times; one call of shell_print() or
+ * shell_line() then frees the lines and leaves the record as it is: clear it before the next use.
+ */
+typedef struct shell_output shell_output;
+struct shell_output {
+  shell_output_line* first; /* null if there is none */
+  uint32_t count;           /* the lines added */
+};
+
+/*
+ * Runs the command that a printf format yields and adds the lines of its output to a list, behind
+ * those of earlier runs. A line ends at its first NUL byte; one that begins with it, or for which
+ * there is no memory, is dropped. With a null list the command runs all the same.
+ *
+ * Result: the command's status; -1, with what was stored left in the list, if the command cannot be
+ * formed, the shell cannot be started or waited for, or without memory for a line.
+ */
+TAVIK_API int32_t shell_run(shell_output* list, const char* format, ...) TAVIK_PRINTF(2, 3);
+
+/*
+ * Prints the lines of a list, escaped, or as they are with PF_RAW, and frees them. PF_COMMENT and
+ * PF_PRE wrap the output as run_shell() does, but an empty list prints nothing; PF_CRLF has no
+ * effect.
+ */
+TAVIK_API void shell_print(shell_output* list, uint32_t flags);
+
+/*
+ * Calls callback(context, text) for each line of a list, in order, and frees the lines, each when
+ * its callback has returned. The result of the callback is ignored; a null callback only frees.
+ */
+TAVIK_API void shell_line(shell_output* list, int32_t (*callback)(uintptr_t context, char* text),
+                          uintptr_t context);
 
 /*
  * Sends a signal to the process whose number an item holds.
@@ -923,6 +1197,101 @@ TAVIK_API const char* get_progname(uint32_t count, const char* path);
  * ========================================================================================= */
 
 /* ---- Row tables ---------------------------------------------------------------------------- */
+
+/*
+ * What a row record of a table begins with; the page's own fields stand behind it. A table is a
+ * list of such records that gives each its row number, and every operation walks the whole table.
+ * Rows stay where they are in memory, so pointers to them last as long as the rows.
+ */
+typedef struct xtable_row xtable_row;
+struct xtable_row {
+  xtable_row* prev; /* null in the first row */
+  xtable_row* next; /* null in the last row */
+  uint32_t index;   /* the row number; that of the last row is the number of rows */
+};
+
+/* A table. All bytes 0 is an empty one. */
+typedef struct xtable xtable;
+struct xtable {
+  xtable_row* head; /* the first row, null in an empty table */
+  xtable_row* tail; /* the last row, null in an empty table */
+};
+
+/*
+ * Appends a new row of size bytes, those of the prefix included, and numbers the table. Behind the
+ * prefix all bytes are 0.
+ *
+ * Result: the row, which belongs to the table; null, with the table as it was, if there is no
+ * memory or size is less than the prefix takes.
+ */
+TAVIK_API xtable_row* xtable_new_row(xtable* table, uint32_t size);
+
+/*
+ * Appends a row of the caller's, a block from malloc(), which belongs to the table from then on. It
+ * gets no number: xtable_index_row() is called once all are in.
+ */
+TAVIK_API void xtable_add_row(xtable* table, xtable_row* row);
+
+/*
+ * Takes a row out of the table it is in, which is not checked, and frees it. The rows behind it
+ * keep their numbers: xtable_index_row() is called once all are out.
+ */
+TAVIK_API void xtable_rm_row(xtable* table, xtable_row* row);
+
+/*
+ * Numbers the rows 1, 2, 3 and so on.
+ *
+ * Result: the number of rows.
+ */
+TAVIK_API uint32_t xtable_index_row(xtable* table);
+
+/*
+ * Looks a row up by the number it bears, whether or not that is its place.
+ *
+ * Result: the first such row, or null.
+ */
+TAVIK_API xtable_row* xtable_search_row(xtable* table, uint32_t index);
+
+/*
+ * Takes the row with a number out of the table, frees it, and numbers the table.
+ *
+ * Result: 1; 0 if there is no such row.
+ */
+TAVIK_API int32_t xtable_del_row(xtable* table, uint32_t index);
+
+/*
+ * Swaps the row with a number and the row before it, and numbers the table: a second call with the
+ * same number moves the other row back up.
+ *
+ * Result: 1; 0, with the table as it was, if there is no such row or it is the first.
+ */
+TAVIK_API int32_t xtable_move_up_row(xtable* table, uint32_t index);
+
+/*
+ * Swaps the row with a number and the row behind it, as xtable_move_up_row() does.
+ *
+ * Result: 1; 0, with the table as it was, if there is no such row or it is the last.
+ */
+TAVIK_API int32_t xtable_move_dn_row(xtable* table, uint32_t index);
+
+/*
+ * Sorts a numbered table with qsort() and numbers it again. What is sorted is an array of pointers
+ * to rows: width is sizeof(xtable_row*), not the size of a record, and the arguments of compare
+ * point to such pointers. Rows that compare as equal stand as qsort() left them.
+ *
+ * A table of one row is not looked at. No other width, a null compare, a number of the last row
+ * that is not the count of rows, and lack of memory leave the order as it was.
+ *
+ * Result: 0 for a null or empty table, or a last row that bears the number 0; 1 in all other cases,
+ * sorted or not.
+ */
+TAVIK_API uint32_t xtable_sort(xtable* table, uint32_t width,
+                               int (*compare)(const void* left, const void* right));
+
+/*
+ * Frees all rows. The table is empty then and can be used again.
+ */
+TAVIK_API void xtable_cleanup(xtable* table);
 
 /* ---- XML ----------------------------------------------------------------------------------- */
 

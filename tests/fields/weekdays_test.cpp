@@ -4,67 +4,36 @@
 
 namespace {
 
-// The table as text, one entry behind the other; "-" for an entry left untouched.
+// The first three entries as text; "-" for one left untouched.
 std::string table_of(uint32_t capacity, const char* list) {
-  dow_entry table[8] = {};
+  dow_entry table[3] = {};
   gen_dow_table(table, capacity, list);
   std::string text;
-  for (const dow_entry& entry : table) {
-    text += entry.name == nullptr
-                ? "-"
-                : std::to_string(entry.day) + entry.name + "=" + entry.label + " ";
+  for (const auto& [day, name, label] : table) {
+    text += name == nullptr ? "-" : std::to_string(day) + name + label + " ";
   }
   return text;
 }
 
 TEST(GenDowTable, FillsEntriesInTheListsOrder) {
-  const char week[] =
-      "1Mo\0"
-      "2Tu\0"
-      "3We\0"
-      "4Th\0"
-      "5Fr\0"
-      "6Sa\0"
-      "0Su\0";
-  EXPECT_EQ(table_of(8, week), "1mon=Mo 2tue=Tu 3wed=We 4thu=Th 5fri=Fr 6sat=Sa 0sun=Su -");
-  EXPECT_EQ(table_of(2, week), "1mon=Mo 2tue=Tu ------");
-  EXPECT_EQ(table_of(0, week), "--------");
-  EXPECT_EQ(table_of(8, ""), "--------");
-  EXPECT_EQ(table_of(8, nullptr), "--------");
-  EXPECT_EQ(table_of(8,
-                     "7x\0"
-                     "3\0"
-                     "9y\0"
-                     "4Thu\0"),
-            "-3wed= -4thu=Thu ----");
-  EXPECT_EQ(table_of(8,
-                     "1a\0"
-                     "x\0"
-                     "2b\0"),
-            "1mon=a -------");
-  EXPECT_EQ(table_of(2,
-                     "8x\0"
-                     "1a\0"
-                     "2b\0"),
-            "-1mon=a ------")
-      << "a skipped entry counts";
-  gen_dow_table(nullptr, 8, week);
+  EXPECT_EQ(table_of(3, "1Mo\0006Sa\0000\0"), "1monMo 6satSa 0sun ");
+  EXPECT_EQ(table_of(2, "2a\0003b\0004c\0"), "2tuea 3wedb -");
+  EXPECT_EQ(table_of(2, "7x\0005a\0004b\0"), "-5fria -") << "a skipped entry counts";
+  EXPECT_EQ(table_of(3, "4a\0x\0002b\0"), "4thua --");
+  EXPECT_EQ(table_of(0, "1a\0") + table_of(3, "") + table_of(3, nullptr), "---------");
+  gen_dow_table(nullptr, 8, "1a\0");
 }
 
 TEST(CronWeekdays, WritesTheDayField) {
-  const struct {
-    uint32_t mask;
-    const char* expected;
-  } cases[] = {{0x2A, "1,3,5"}, {0x7F, "*"},   {0xFF, "*"},           {0x80, ""},
-               {0, ""},         {0x41, "0,6"}, {0x7E, "1,2,3,4,5,6"}, {0xC0, "6"}};
-  for (const auto& c : cases) {
+  const std::pair<uint32_t, const char*> cases[] = {
+      {0x2A, "1,3,5"}, {0x7F, "*"}, {0xFF, "*"}, {0x80, ""}, {0, ""}, {0x7E, "1,2,3,4,5,6"}};
+  for (const auto& [mask, expected] : cases) {
     char buffer[15] = "untouched";
-    EXPECT_EQ(cron_weekdays(buffer, sizeof buffer, c.mask), buffer);
-    EXPECT_STREQ(buffer, c.expected);
+    EXPECT_STREQ(cron_weekdays(buffer, 14, mask), "*");
+    EXPECT_STREQ(buffer, "untouched");
+    EXPECT_EQ(cron_weekdays(buffer, 15, mask), buffer);
+    EXPECT_STREQ(buffer, expected);
   }
-  char small[14] = "untouched";
-  EXPECT_STREQ(cron_weekdays(small, sizeof small, 0), "*");
-  EXPECT_STREQ(small, "untouched");
   EXPECT_STREQ(cron_weekdays(nullptr, 99, 1), "*");
 }
 

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 
+#include "support/no_descriptors.h"
 #include "tavik.h"
 
 namespace {
@@ -59,13 +59,9 @@ TEST(AsprintShell, LeavesOutAloneWithoutAShell) {
   EXPECT_EQ(asprint_shell(&out, nullptr), -1);
   EXPECT_EQ(asprint_title_shell(nullptr, "echo x"), -1);
   EXPECT_EQ(asprint_title_shell(&out, nullptr), -1);
-  struct rlimit before {};
-  getrlimit(RLIMIT_NOFILE, &before);
-  const struct rlimit none { 0, before.rlim_max };
-  setrlimit(RLIMIT_NOFILE, &none);
+  const test::NoDescriptors none;
   const Captured text = capture(asprint_shell, "echo x");
   const Captured title = capture(asprint_title_shell, "echo x");
-  setrlimit(RLIMIT_NOFILE, &before);
   EXPECT_EQ(text.text + title.text, "untoucheduntouched");
   EXPECT_EQ(text.result + title.result, -2);
 }

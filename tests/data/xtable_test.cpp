@@ -1,0 +1,131 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <random>
+#include <vector>
+
+#include "support/failing_heap.h"
+#include "tavik.h"
+
+namespace {
+
+struct Row {
+  xtable_row prefix;
+  uint32_t key;
+  unsigned char rest[37];
+};
+
+using Model = std::vector<xtable_row*>;
+
+constexpr uint32_t kWidth = sizeof(xtable_row*);
+
+uint32_t& key(xtable_row* row) {
+  return reinterpret_cast<Row*>(row)->key;
+}
+
+int compare_keys(const void* left, const void* right) {
+  const uint32_t a = key(*static_cast<xtable_row* const*>(left));
+  const uint32_t b = key(*static_cast<xtable_row* const*>(right));
+  return a < b ? -1 : a > b;
+}
+
+void expect_rows(const xtable& table, const Model& model) {
+  const xtable_row* before = nullptr;
+  const xtable_row* row = table.head;
+  for (uint32_t number = 1; number <= model.size(); ++number) {
+    ASSERT_EQ(row, model[number - 1]);
+    ASSERT_EQ(row->prev, before);
+    ASSERT_EQ(row->index, number);
+    before = row;
+    row = row->next;
+  }
+  ASSERT_EQ(row, nullptr);
+  ASSERT_EQ(table.tail, before);
+}
+
+TEST(XTable, FollowsAModelThroughRandomSteps) {
+  std::mt19937 random(1);
+  xtable table{};
+  Model model;
+  for (int step = 0; step < 20000; ++step) {
+    const auto size = static_cast<uint32_t>(model.size());
+    const uint32_t index = random() % (size + 2);
+    const bool exists = index >= 1 && index <= size;
+    const auto place = model.begin() + (exists ? index - 1 : 0);
+    ASSERT_EQ(xtable_search_row(&table, index), exists ? *place : nullptr);
+    const uint32_t action = random() % 8;
+    if (action == 0) {
+      ASSERT_EQ(xtable_del_row(&table, index), exists);
+      if (exists) model.erase(place);
+    } else if (action == 1 && exists) {
+      xtable_rm_row(&table, *place);
+      model.erase(place);
+      ASSERT_EQ(xtable_index_row(&table), size - 1);
+    } else if (action == 2) {
+      ASSERT_EQ(xtable_move_up_row(&table, index), exists && index > 1);
+      if (exists && index > 1) std::swap(place[0], place[-1]);
+    } else if (action == 3) {
+      ASSERT_EQ(xtable_move_dn_row(&table, index), exists && index < size);
+      if (exists && index < size) std::swap(place[0], place[1]);
+    } else if (action == 4 && step % 8 == 0) {
+      ASSERT_EQ(xtable_sort(&table, kWidth, compare_keys), size > 0);
+      std::sort(model.begin(), model.end(), [](auto* a, auto* b) { return key(a) < key(b); });
+    } else if (action == 4 && step % 64 == 1) {
+      xtable_cleanup(&table);
+      model.clear();
+    } else if (action == 5) {
+      model.push_back(static_cast<xtable_row*>(malloc(sizeof(Row))));
+      key(model.back()) = random();
+      xtable_add_row(&table, model.back());
+      ASSERT_EQ(xtable_index_row(&table), size + 1);
+    } else if (action > 5) {
+      model.push_back(xtable_new_row(&table, sizeof(Row)));
+      const auto& rest = reinterpret_cast<Row*>(model.back())->rest;
+      ASSERT_EQ(std::count(std::begin(rest), std::end(rest), 0), sizeof rest);
+      key(model.back()) = random();
+    }
+    ASSERT_NO_FATAL_FAILURE(expect_rows(table, model)) << "step " << step;
+  }
+  xtable_cleanup(&table);
+  expect_rows(table, {});
+}
+
+class XTableOfThree : public testing::Test {
+ protected:
+  XTableOfThree() {
+    for (const uint32_t order : {3, 1, 2}) {
+      model.push_back(xtable_new_row(&table, sizeof(Row)));
+      key(model.back()) = order;
+    }
+  }
+  ~XTableOfThree() override { xtable_cleanup(&table); }
+
+  xtable table{};
+  Model model;
+};
+
+TEST_F(XTableOfThree, StaysAsItIsWhereItCannotBeSorted) {
+  EXPECT_EQ(xtable_sort(nullptr, kWidth, compare_keys), 0U);
+  EXPECT_EQ(xtable_sort(&table, 0, compare_keys), 1U);
+  EXPECT_EQ(xtable_sort(&table, sizeof(Row), compare_keys), 1U);
+  EXPECT_EQ(xtable_sort(&table, kWidth, nullptr), 1U);
+  for (const uint32_t stale : {0U, 2U, 4U, UINT32_MAX}) {
+    table.tail->index = stale;
+    EXPECT_EQ(xtable_search_row(&table, stale), stale == 2 ? model[1] : table.tail);
+    EXPECT_EQ(xtable_sort(&table, kWidth, compare_keys), stale != 0) << stale;
+    xtable_index_row(&table);
+    expect_rows(table, model);
+  }
+}
+
+TEST_F(XTableOfThree, StaysAsItIsWithoutMemory) {
+  if (!test::FailingHeap::works()) GTEST_SKIP();
+  {
+    const test::FailingHeap heap;
+    EXPECT_EQ(xtable_new_row(&table, sizeof(Row)), nullptr);
+    EXPECT_EQ(xtable_sort(&table, kWidth, compare_keys), 1U);
+  }
+  expect_rows(table, model);
+}
+
+}  // namespace
