@@ -6,6 +6,7 @@
 namespace {
 
 size_t count = 0;
+bool exhausted = false;
 
 }  // namespace
 
@@ -17,17 +18,17 @@ void* __libc_realloc(void* block, size_t size);
 
 void* malloc(size_t size) {
   ++count;
-  return __libc_malloc(size);
+  return exhausted ? nullptr : __libc_malloc(size);
 }
 
 void* calloc(size_t number, size_t size) {
   ++count;
-  return __libc_calloc(number, size);
+  return exhausted ? nullptr : __libc_calloc(number, size);
 }
 
 void* realloc(void* block, size_t size) {
   ++count;
-  return __libc_realloc(block, size);
+  return exhausted ? nullptr : __libc_realloc(block, size);
 }
 
 }  // extern "C"
@@ -36,6 +37,13 @@ namespace test {
 
 size_t allocations() {
   return count;
+}
+
+ExhaustedHeap::ExhaustedHeap() {
+  exhausted = true;
+}
+ExhaustedHeap::~ExhaustedHeap() {
+  exhausted = false;
 }
 
 }  // namespace test

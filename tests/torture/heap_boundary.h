@@ -1,4 +1,5 @@
-// The heap at the C library's boundary: this test program defines malloc() and its kin, and counts.
+// The heap at the C library's boundary: this test program defines malloc() and its kin, counts, and
+// can let them fail.
 #pragma once
 
 #include <cstddef>
@@ -7,5 +8,14 @@ namespace test {
 
 // Allocations, and reallocations, so far in this process.
 size_t allocations();
+
+// While it lives, every allocation and reallocation of the process fails; freeing works.
+class ExhaustedHeap {
+ public:
+  ExhaustedHeap();
+  ~ExhaustedHeap();
+  ExhaustedHeap(const ExhaustedHeap&) = delete;
+  ExhaustedHeap& operator=(const ExhaustedHeap&) = delete;
+};
 
 }  // namespace test
