@@ -1295,6 +1295,88 @@ TAVIK_API void xtable_cleanup(xtable* table);
 
 /* ---- XML ----------------------------------------------------------------------------------- */
 
+/*
+ * An XML document that grows by what is appended. Nothing checks its structure. The page reads
+ * buffer and length at the end and frees the buffer.
+ *
+ * Without memory what was to be appended is dropped, with nothing but a capacity of 0 to tell of
+ * it; the next append tries again, and may succeed.
+ */
+typedef struct xml_data xml_data;
+struct xml_data {
+  uint32_t capacity; /* bytes of the buffer, a multiple of 1024; 0 before and after a failure */
+  uint32_t length;   /* bytes of the document */
+  char* buffer;      /* the document, not terminated; null before the first append */
+};
+
+/* The forms of a tag, with what xml_data_tag() puts behind the name, or alone for a null name. */
+enum {
+  XML_TAG_OPEN = 0,    /* an opening tag: ">" */
+  XML_TAG_OPEN_NL = 1, /* an opening tag at the end of its line: ">" and LF */
+  XML_TAG_START = 2,   /* a tag that attributes follow: nothing */
+  XML_TAG_CLOSE = 3,   /* a closing tag, with "</" ahead of the name: ">" and LF */
+  XML_TAG_EMPTY = 4    /* an element without content: "/>" and LF */
+};
+
+/*
+ * Appends len bytes of data as they are, or so many zero bytes for null data. The buffer grows to
+ * the next multiple of 1024 that fits; the first call brings it into being, also for a len of 0.
+ */
+TAVIK_API void xml_data_append(xml_data* doc, const void* data, int32_t len);
+
+/*
+ * Appends a text as it is, without its terminator.
+ */
+TAVIK_API void xml_data_str(xml_data* doc, const char* text) TAVIK_NONNULL(2);
+
+/*
+ * Appends the declaration of XML 1.0 in UTF-8, and a LF.
+ */
+TAVIK_API void xml_data_header(xml_data* doc);
+
+/*
+ * Appends a tag: "<" and the name, as it is, and what the form puts behind it, nothing for a form
+ * that does not exist. A null name, whatever the form, finishes a tag of form XML_TAG_START once
+ * its attributes stand.
+ */
+TAVIK_API void xml_data_tag(xml_data* doc, const char* name, int32_t form);
+
+/*
+ * Appends at most len bytes of a text, escaped: TAB, LF and CR as "&#9;", "&#10;" and "&#13;", and
+ * " & ' < > as named entities. Other control characters and all bytes from 0x80 go out as they
+ * are. The text ends at its NUL; UINT32_MAX stands for no limit.
+ */
+TAVIK_API void xml_data_txt(xml_data* doc, const char* text, uint32_t len) TAVIK_NONNULL(2);
+
+/*
+ * Appends what is left of a file, escaped as by xml_data_txt(), and closes the descriptor. Where
+ * the document then ends in an escaped LF, one is taken off again: the value of an item stands
+ * there without its line end. A NUL drops what follows it in its piece of 4096 bytes.
+ *
+ * Result: the bytes read, less 1 for a LF taken off; -1 on a read error, with what had arrived
+ * left in the document.
+ */
+TAVIK_API int32_t xml_data_txt_fd(xml_data* doc, int32_t fd) TAVIK_NONNULL(1);
+
+/*
+ * Appends an element that holds a text: the name goes out as it is, the text escaped. A LF follows
+ * the closing tag.
+ */
+TAVIK_API void xml_data_element(xml_data* doc, const char* name, const char* text)
+    TAVIK_NONNULL(2, 3);
+
+/*
+ * Appends an attribute, with a blank ahead of it. Name and value go out as they are: the value must
+ * hold no double quote, "<" or "&".
+ */
+TAVIK_API void xml_data_attr_str(xml_data* doc, const char* name, const char* value)
+    TAVIK_NONNULL(2, 3);
+
+/*
+ * Appends an attribute with a number in decimal as its value.
+ */
+TAVIK_API void xml_data_attr_num(xml_data* doc, const char* name, uint32_t value) TAVIK_NONNULL(2);
+
 /* ---- Base64 -------------------------------------------------------------------------------- */
 
 /*

@@ -19,4 +19,19 @@ TEST(NoMemory, RowTablesStayAsTheyAre) {
   xtable_cleanup(&table);
 }
 
+TEST(NoMemory, XmlDropsWhatDoesNotFitAndGoesOn) {
+  xml_data doc{};
+  for (const uint32_t length : {0U, 1024U}) {
+    {
+      const test::ExhaustedHeap heap;
+      xml_data_str(&doc, "dropped");
+    }
+    EXPECT_EQ(doc.capacity, 0U);
+    EXPECT_EQ(doc.length, length);
+    xml_data_append(&doc, nullptr, 1024);
+    EXPECT_EQ(doc.capacity, doc.length);
+  }
+  free(doc.buffer);
+}
+
 }  // namespace
