@@ -740,9 +740,9 @@ TAVIK_API uint32_t gen_selectbox_num(const select_state* state, const char* name
  *
  * Result: as gen_selectbox_num().
  */
-TAVIK_API uint32_t gen_xselectbox_num(const select_state* state, selectbox_callback callback,
-                                      uintptr_t arg, const char* format, ...) TAVIK_NONNULL(2)
-TAVIK_PRINTF(4, 5);
+TAVIK_API TAVIK_NONNULL(2)
+uint32_t gen_xselectbox_num(const select_state* state, selectbox_callback callback, uintptr_t arg,
+                            const char* format, ...) TAVIK_PRINTF(4, 5);
 
 /*
  * Takes the index of a numeric select off a submitted text: decimal digits behind leading blanks
