@@ -1000,6 +1000,134 @@ TAVIK_API const char* cron_weekdays(char* buffer, uint32_t size, uint32_t mask);
 
 /* ---- Passwords ----------------------------------------------------------------------------- */
 
+/*
+ * A password is an item that holds its hash by crypt(), in the MD5 scheme: "$1$", 8 salt
+ * characters, "$" and 22 hash characters, 34 in all. The scheme's number is 0x31, the character
+ * "1"; scheme 0 is a password stored in clear. A page reads the stored password with rd_passwd(),
+ * checks both new entries with chk_new_passwd(), calls update_pw() and reports the status.
+ *
+ * Every page is linked with libcrypt. One that calls none of crypt_cmp(), crypt_encode() and
+ * update_pw() can be linked by the rules of tavik-nocrypt instead, and then starts without it.
+ */
+
+/* A user and what that user may do, in a code of the page. A pair with a null name ends a table. */
+typedef struct auth_pair auth_pair;
+struct auth_pair {
+  const char* name;
+  uint32_t value;
+};
+
+/* What became of a password entry, or of a password change. */
+enum {
+  PW_STATUS_NONE = 0,       /* nothing was entered, nothing was done */
+  PW_STATUS_CHANGED = 1,    /* the hash was written, or at least tried to, in both directories */
+  PW_STATUS_NO_HASH = 2,    /* all was well, but no hash could be made; nothing was written */
+  PW_STATUS_ACCEPTED = 3,   /* the entry passed; never the outcome of a change */
+  PW_STATUS_BAD_OLD = 4,    /* the old password is missing or wrong */
+  PW_STATUS_MISMATCH = 5,   /* the repeated entry did not pass, or differs from the first */
+  PW_STATUS_BAD_LENGTH = 6, /* too few or too many characters */
+  PW_STATUS_BAD_CHAR = 7    /* a character that passwords may not have */
+};
+
+/* A stored password. The texts it points to are the caller's and outlive it. */
+typedef struct passwd_state passwd_state;
+struct passwd_state {
+  uintptr_t caller_word; /* the page's own, never looked at */
+  const char* directory;
+  const char* name;
+  int32_t status; /* a PW_STATUS_ code: the outcome of update_pw() */
+  int32_t scheme; /* 0x31 for an MD5 hash, 0 for anything else */
+  int32_t length; /* of the stored text in bytes; negative if the item could not be read */
+  char stored[35];
+};
+
+/* A submitted password change. A status goes with the text that chk_new_passwd() gave out. */
+typedef struct passwd_entry passwd_entry;
+struct passwd_entry {
+  uintptr_t caller_word; /* the page's own, never looked at */
+  const char* old_text;  /* the old password, or null */
+  int32_t new_status;
+  const char* new_text; /* the first new entry, or null */
+  int32_t repeat_status;
+  const char* repeat_text; /* the repeated new entry, or null */
+};
+
+/*
+ * Looks up the logged-in user, whose name is in REMOTE_USER, in a table. Names compare byte for
+ * byte, and the first match counts.
+ *
+ * Result: the pair's value; 0 if no pair matches, REMOTE_USER is unset or the table is null.
+ */
+TAVIK_API uint32_t get_auth(const auth_pair* table);
+
+/*
+ * Tells whether a text of length bytes has the form of an MD5 hash: 34 bytes that begin with "$1$".
+ * The salt and hash characters are not looked at.
+ *
+ * Result: the scheme, 0x31; 0 for anything else.
+ */
+TAVIK_API int32_t crypt_detect(const char* text, int32_t length);
+
+/*
+ * Compares an entered password with the stored text: by its hash, or, for the scheme 0, as it is.
+ *
+ * Result: 0 if the password matches; non-zero if not, if it cannot be hashed or a text is null.
+ */
+TAVIK_API int32_t crypt_cmp(int32_t scheme, const char* stored, const char* entered);
+
+/*
+ * Hashes a password with a new salt for the scheme 0x31; any other scheme gives a copy of the
+ * password. The salt comes from the seed, the process id and the time in seconds.
+ *
+ * Result: a heap text, which the caller frees; null if it could not be made.
+ */
+TAVIK_API char* crypt_encode(int32_t scheme, const char* password, uint32_t seed);
+
+/*
+ * Names the characters that chk_new_passwd() allows, for display.
+ *
+ * Result: a constant text.
+ */
+TAVIK_API const char* passwd_chars(void);
+
+/*
+ * Checks an entry for a new password. The characters decide first, then their number, with both
+ * bounds inclusive. An invalid sequence ends the check: what stands ahead of it decides. accepted,
+ * which may be null, gets the text if it passed, the whole of it, and is left alone otherwise.
+ *
+ * Result: PW_STATUS_ACCEPTED; PW_STATUS_BAD_CHAR; PW_STATUS_NONE if there is no character, whatever
+ * the minimum; PW_STATUS_BAD_LENGTH.
+ */
+TAVIK_API int32_t chk_new_passwd(const char* text, const char** accepted, uint32_t minimum,
+                                 uint32_t maximum) TAVIK_NONNULL(1);
+
+/*
+ * Reads a stored password and fills the whole record. An item that cannot be read leaves an empty
+ * stored text, a negative length and the scheme 0. At most 34 bytes are read, so that the first 34
+ * of a longer text can pass for a hash.
+ *
+ * Result: the scheme, 0x31 or 0, which it is also for a null record.
+ */
+TAVIK_API int32_t rd_passwd(const char* directory, const char* name, passwd_state* state,
+                            uintptr_t caller_word);
+
+/*
+ * Changes a password: hashes the new one and stores it, as update_item() does, in the state's item
+ * and in the item of the same name in the second directory. What a store answers is not looked at,
+ * so that a missing item, which none brings into being, still counts as changed.
+ *
+ * The outcome goes to the state's status. The first of these decides: a new status other than
+ * PW_STATUS_ACCEPTED is the outcome itself; a repeat status other than that is PW_STATUS_MISMATCH;
+ * a null new or repeated text is PW_STATUS_NONE; with verify, an old text that is null or does not
+ * match the stored one is PW_STATUS_BAD_OLD; different new texts are PW_STATUS_MISMATCH; otherwise
+ * PW_STATUS_CHANGED or PW_STATUS_NO_HASH. After a change the state's scheme is 0x31, and its stored
+ * text and length are still the old ones. A null entry is PW_STATUS_NONE.
+ *
+ * An empty stored text of scheme 0, also that of an unreadable item, matches an empty old text.
+ */
+TAVIK_API void update_pw(const passwd_entry* entry, passwd_state* state,
+                         const char* second_directory, int32_t verify);
+
 /* ---- Certificate directories --------------------------------------------------------------- */
 
 /* ---- Certificate select -------------------------------------------------------------------- */
