@@ -25,7 +25,8 @@ need_build_tools() {
 
 need_test_tools() {
   need /usr/include/gtest/gtest.h=libgtest-dev /usr/include/gmock/gmock.h=libgmock-dev \
-    xmllint=libxml2-utils python3=python3 busybox=busybox node=nodejs npm=npm chromium=chromium
+    xmllint=libxml2-utils openssl=openssl python3=python3 busybox=busybox node=nodejs npm=npm \
+    chromium=chromium
 }
 
 need_check_tools() {
