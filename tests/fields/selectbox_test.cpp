@@ -3,7 +3,6 @@
 #include <cerrno>
 
 #include "support/capture.h"
-#include "support/failing_heap.h"
 #include "support/scripted_io.h"
 #include "support/temp_dir.h"
 #include "tavik.h"
@@ -63,18 +62,6 @@ TEST(SelectboxNum, PrintsTheOfferedIndexes) {
   test::printed([&] { gen_xselectbox_num(&state, answer, word(endless.c_str()), nullptr); });
   EXPECT_EQ(calls.substr(33, 9), "30 00 20 ");
   EXPECT_EQ(calls.substr(calls.size() - 10), "0255 2255 ");
-}
-
-TEST(SelectboxNum, AsksForAttributesThatCannotBeMade) {
-  if (!test::FailingHeap::works()) GTEST_SKIP();
-  const selectbox_callback ask = [](uint32_t operation, uint32_t, uintptr_t) {
-    return operation == SELECT_OP_ATTRS ? printf(" asked") : -1;
-  };
-  EXPECT_EQ(test::printed([&] {
-              const test::FailingHeap exhausted;
-              gen_xselectbox_num(nullptr, ask, 0, " name=m");
-            }),
-            "<select asked disabled>\r\n</select>\r\n");
 }
 
 // As many rows as arg says, the first one not offered.

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "support/capture.h"
 #include "tavik.h"
 #include "torture/heap_boundary.h"
 
@@ -32,6 +33,18 @@ TEST(NoMemory, XmlDropsWhatDoesNotFitAndGoesOn) {
     EXPECT_EQ(doc.capacity, doc.length);
   }
   free(doc.buffer);
+}
+
+TEST(NoMemory, ASelectAsksForAttributesThatCannotBeMade) {
+  const selectbox_callback ask = [](uint32_t operation, uint32_t, uintptr_t) {
+    return operation == SELECT_OP_ATTRS ? printf(" asked") : -1;
+  };
+  EXPECT_EQ(test::printed([&] {
+              putchar('\n');  // stdout takes its buffer
+              const test::ExhaustedHeap heap;
+              gen_xselectbox_num(nullptr, ask, 0, " name=m");
+            }),
+            "\n<select asked disabled>\r\n</select>\r\n");
 }
 
 }  // namespace
