@@ -6,6 +6,9 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <cstdlib>
+#include <iterator>
+#include <sstream>
 #include <thread>
 
 namespace test {
@@ -28,8 +31,27 @@ std::vector<char*> pointers(std::vector<std::string>& texts) {
   return list;
 }
 
+std::string setting(const char* name, const char* preset) {
+  const char* const value = getenv(name);
+  return value == nullptr ? preset : value;
+}
+
+std::string pages() {
+  return setting("TAVIK_TEST_PAGES", TEST_PAGES);
+}
+
+// The words that start a program. The suite's own page programs may need an emulator; others are
+// the machine's.
+std::vector<std::string> command(const std::string& program) {
+  if (!program.starts_with(pages())) return {program};
+  std::istringstream words(setting("TAVIK_TEST_EMULATOR", TEST_EMULATOR));
+  std::vector<std::string> command{std::istream_iterator<std::string>(words), {}};
+  command.push_back(program);
+  return command;
+}
+
 pid_t start(const std::string& program, const PageRequest& request, int input, int output) {
-  std::vector<std::string> arguments{program};
+  std::vector<std::string> arguments = command(program);
   arguments.insert(arguments.end(), request.arguments.begin(), request.arguments.end());
   std::vector<std::string> environment;
   for (const auto& [name, value] : request.environment) environment.push_back(name + "=" + value);
@@ -39,7 +61,7 @@ pid_t start(const std::string& program, const PageRequest& request, int input, i
   if (child != 0) return child;
   dup2(input, STDIN_FILENO);
   dup2(output, STDOUT_FILENO);
-  execve(program.c_str(), argv.data(), envp.data());
+  execvpe(argv[0], argv.data(), envp.data());
   _exit(127);
 }
 
@@ -105,7 +127,7 @@ PageAnswer run_page(const std::string& program, const PageRequest& request) {
 }
 
 std::string page_program(const std::string& name) {
-  return std::string(TEST_PAGES) + "/" + name;
+  return pages() + "/" + name;
 }
 
 }  // namespace test

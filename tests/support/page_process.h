@@ -24,7 +24,8 @@ struct PageAnswer {
 
 PageAnswer run_page(const std::string& program, const PageRequest& request);
 
-// The directory of the test suite's own page programs.
+// The path of one of the test suite's own page programs. TAVIK_TEST_PAGES in the environment names
+// the folder of others to take in their place, and TAVIK_TEST_EMULATOR what to run them with.
 std::string page_program(const std::string& name);
 
 }  // namespace test
