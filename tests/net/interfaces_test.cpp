@@ -124,7 +124,7 @@ TEST(Interfaces, Ipv6AddressesInAPrivateNetwork) {
     if (ioctl(query, SIOCSIFADDR, &link) != 0) return kRefused;
     for (const char* name : {"lo", "l", "abc"}) printf("%d ", read_interface6_conf(name, nullptr));
     printf("%d ", read_interface6_conf(nullptr, settled));
-    return ioctl(query, SIOCDIFADDR, &host) + read_interface6_conf("lo", settled);
+    return ioctl(query, SIOCDIFADDR, &host) == 0 ? read_interface6_conf("lo", settled) : kRefused;
   });
   if (answer.status == kRefused) GTEST_SKIP() << "no private network, or no IPv6 in it";
   EXPECT_EQ(answer.output,
