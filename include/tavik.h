@@ -651,7 +651,160 @@ TAVIK_API void str_replace_chr(char* text, uint32_t from, uint32_t to);
 
 /* ---- Text box ------------------------------------------------------------------------------ */
 
+/*
+ * Decides whether a submitted character stays, by a result other than 0. position is the number of
+ * bytes that stayed before it, and character is never 0. What is refused is dropped without a
+ * report and counts for nothing.
+ */
+typedef int32_t (*textbox_filter)(uint32_t position, uint32_t character);
+
+/*
+ * Prints an input tag of type "text", with PF_PASSWORD of type "password", and no line end.
+ *
+ * The value is escaped and cut to maximum characters or at its first invalid sequence; a null value
+ * has no value attribute. maxlength, which PF_READONLY leaves out, and size, which PF_SIZE asks
+ * for, tell the maximum; a negative one stands for none and is told as 2147483647.
+ *
+ * PF_PASSWORD and PF_MASKED show one bullet (U+2022) for each character; maximum bullets, whatever
+ * the value, with PF_DISABLED or for an invalid value, but without a maximum at most one for each
+ * byte. PF_DATA_VALUE adds the clear value to that, cut to as many characters, in a data-value
+ * attribute. The format's output, unless null, goes out as it is behind all that and begins with a
+ * blank, as in " name=\"%s\""; the attributes of the flag word come last.
+ *
+ * Result: that of writing the closing ">", negative if it failed.
+ */
+TAVIK_API int32_t vgen_xtextbox(int32_t maximum, const char* value, uint32_t flags,
+                                const char* format, va_list arguments) TAVIK_PRINTF(4, 0);
+
+/*
+ * Prints a text box for a value, as vgen_xtextbox() does.
+ *
+ * Result: as vgen_xtextbox().
+ */
+TAVIK_API int32_t gen_xtextbox(int32_t maximum, const char* value, uint32_t flags,
+                               const char* format, ...) TAVIK_PRINTF(4, 5);
+
+/*
+ * Prints a text box for an item, as rd_textbox_item() and vgen_xtextbox() do. maximum is in
+ * characters and not negative, and the value takes three times as many bytes of stack.
+ *
+ * Result: the flag word, with PF_DISABLED if the item could not be read.
+ */
+TAVIK_API uint32_t gen_xtextbox_item(const char* directory, const char* name, int32_t maximum,
+                                     uint32_t flags, const char* format, ...) TAVIK_PRINTF(5, 6);
+
+/*
+ * Prints a JSON member with a text, or with null for a null value or PF_DISABLED, behind ", " if
+ * PF_JSON_MORE is set. Neither name nor value is escaped: a quote or a backslash in the value
+ * breaks the JSON. A null name prints nothing.
+ *
+ * Result: the flag word for the next member, with PF_JSON_MORE, and with PF_DISABLED for a null
+ * value, which makes every later text member null as well; flags as they are for a null name.
+ */
+TAVIK_API uint32_t gen_json_text(const char* value, const char* json_name, uint32_t flags);
+
+/*
+ * Prints a JSON member for an item, as rd_textbox_item() and gen_json_text() do. maximum is in
+ * characters and not negative, and the value takes three times as many bytes of stack.
+ *
+ * Result: as gen_json_text(), with PF_DISABLED if the item could not be read.
+ */
+TAVIK_API uint32_t gen_json_text_item(const char* directory, const char* name, int32_t maximum,
+                                      const char* json_name, uint32_t flags);
+
+/*
+ * Prints the value of an item as text of the page, escaped: as much of it as fits one memory page
+ * less one byte, and nothing if it cannot be read.
+ *
+ * Result: the length read in bytes; negative on failure.
+ */
+TAVIK_API int32_t gen_text_item(const char* directory, const char* name);
+
+/*
+ * Rebuilds a submitted text in destination from its first maximum characters that the filter lets
+ * through; without a filter all stay. Invalid bytes are dropped. The text ends ahead of a
+ * character that does not fit whole in size bytes. destination holds size + 1 bytes, is terminated
+ * also when the result is -2, and may be source. A null source is an empty text.
+ *
+ * Result: 1 for a text that is not empty, whether changed or not; 0 for an empty one; -2 if fewer
+ * than minimum characters stayed; -1 with nothing written if destination is null or size is 0.
+ */
+TAVIK_API int32_t scan_textbox(const char* source, uint32_t maximum, uint32_t minimum,
+                               char* destination, uint32_t size, textbox_filter filter);
+
+/*
+ * Stores a text in an item as it is, cut only to 3 x maximum bytes, not to maximum characters.
+ *
+ * Result: as update_item().
+ */
+TAVIK_API int32_t update_textbox(const char* directory, const char* name, const char* text,
+                                 uint32_t maximum);
+
+/*
+ * Reads an item for a text box into a buffer of size + 1 bytes and cuts the value behind maximum
+ * characters, or behind its first invalid sequence. After a failure the value is empty.
+ *
+ * Result: the flag word, with PF_DISABLED if the item could not be read; an empty item is none
+ * such.
+ */
+TAVIK_API uint32_t rd_textbox_item(const char* directory, const char* name, char* buffer,
+                                   int32_t size, uint32_t maximum, uint32_t flags);
+
+/*
+ * Stores a submitted text in an item: its first maximum characters that the filter lets through,
+ * without a filter all, with invalid bytes dropped. An empty text is stored too.
+ *
+ * Result: that of update_item(), 0 if the stored value is the same; -1 for a null text.
+ */
+TAVIK_API int32_t update_textbox_item(const char* directory, const char* name, const char* text,
+                                      uint32_t maximum, textbox_filter filter);
+
 /* ---- Input filters ------------------------------------------------------------------------- */
+
+/*
+ * Filters for scan_textbox(), update_textbox_item() and update_password_item(), told by what they
+ * keep. Result: 1 or 0. Letters and digits are those of ASCII, and only the last two keep anything
+ * beyond it.
+ */
+
+/* Letters and digits. */
+TAVIK_API int32_t textbox_filter_alnum(uint32_t position, uint32_t character);
+
+/* Digits. */
+TAVIK_API int32_t textbox_filter_digit(uint32_t position, uint32_t character);
+
+/* 0x21 to 0x7E but for the quotes " ' and `. No blank. */
+TAVIK_API int32_t textbox_filter_ascii_printable(uint32_t position, uint32_t character);
+
+/* Host names: letters, digits, "-" and ".". */
+TAVIK_API int32_t textbox_filter_dns(uint32_t position, uint32_t character);
+
+/* Host names and IPv6 addresses: textbox_filter_dns() and ":". */
+TAVIK_API int32_t textbox_filter_dns6(uint32_t position, uint32_t character);
+
+/* Names in certificates: textbox_filter_dns(), "_" and "@". */
+TAVIK_API int32_t textbox_filter_cname(uint32_t position, uint32_t character);
+
+/* ASN.1 texts: textbox_filter_dns(), blank, "_", "@" and "*". */
+TAVIK_API int32_t textbox_filter_asn1(uint32_t position, uint32_t character);
+
+/* IPv6 addresses with prefix: hexadecimal digits of either case, ":" and "/". */
+TAVIK_API int32_t textbox_filter_ip6prefix(uint32_t position, uint32_t character);
+
+/* 0x01 to 0x7F, control characters too, but for leading blanks. */
+TAVIK_API int32_t textbox_filter_octet(uint32_t position, uint32_t character);
+
+/* 0x21 to 0x7F but for the quotes " ' and `. */
+TAVIK_API int32_t textbox_filter_ppp_username(uint32_t position, uint32_t character);
+
+/* textbox_filter_ppp_username() but for "*" and "?" at the beginning. */
+TAVIK_API int32_t textbox_filter_ppp_password(uint32_t position, uint32_t character);
+
+/* What a shell leaves alone inside double quotes: everything but $ \ ' " and `. */
+TAVIK_API int32_t textbox_filter_shell_quoted(uint32_t position, uint32_t character);
+
+/* textbox_filter_shell_quoted() but for ":", blank, "*" and "?". */
+TAVIK_API int32_t textbox_filter_smtp(uint32_t position, uint32_t character);
 
 /* ---- Text area ----------------------------------------------------------------------------- */
 
@@ -1127,6 +1280,21 @@ TAVIK_API int32_t rd_passwd(const char* directory, const char* name, passwd_stat
  */
 TAVIK_API void update_pw(const passwd_entry* entry, passwd_state* state,
                          const char* second_directory, int32_t verify);
+
+/*
+ * Stores a clear-text password from a field that showed the old one as bullets: the first maximum
+ * characters of the text, if the filter lets all of them through and no bullet (U+2022) is among
+ * them. Otherwise nothing is stored, so that bullets sent back untouched change nothing. Invalid
+ * bytes are dropped, and an empty text stores the empty password.
+ *
+ * text is never null, filter may be. rejected, unless null, gets the number of characters that the
+ * filter refused, 0 for a text of nothing but bullets.
+ *
+ * Result: 0 if nothing was written, else that of update_item().
+ */
+TAVIK_API int32_t update_password_item(const char* directory, const char* name, const char* text,
+                                       uint32_t maximum, textbox_filter filter, uint32_t* rejected)
+    TAVIK_NONNULL(3);
 
 /* ---- Certificate directories --------------------------------------------------------------- */
 

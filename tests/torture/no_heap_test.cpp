@@ -52,6 +52,7 @@ TEST_F(NoHeap, TextAndPrinting) {
               html_print_text_nl("a\nb");
               html_print_text_limit(3, "abcdef", 9);
               print_num_str_mark("1234567", ",");
+              html_printf(0, "<%3s%5d%*c>", "text", 7, 2, 0x2022);
             }),
             0U);
 }
@@ -78,6 +79,19 @@ TEST_F(NoHeap, Items) {
               print_fd(from);
               close(from);
               remove_item(dir, "a");
+            }),
+            0U);
+}
+
+TEST_F(NoHeap, TextBoxes) {
+  const char* const dir = dir_.c_str();
+  EXPECT_EQ(allocated([dir] {
+              create_item(dir, "a", "value", 50);
+              update_textbox_item(dir, "a", "new value", 50, textbox_filter_octet);
+              update_password_item(dir, "a", "secret", 50, textbox_filter_alnum, nullptr);
+              gen_xtextbox_item(dir, "a", 50, PF_MASKED, " name=\"%s\"", "a");
+              gen_json_text_item(dir, "a", 50, "a", 0);
+              gen_text_item(dir, "a");
             }),
             0U);
 }
