@@ -16,7 +16,7 @@ def read(path):
 def declared(header):
     """The declared names, and those whose prototype has no comment directly ahead of it."""
     names, bare = [], []
-    for match in re.finditer(r"^TAVIK_API\s[^;]*?(\w+)\(", header, re.MULTILINE):
+    for match in re.finditer(r"^TAVIK_API\s[^;]*?\b(?!TAVIK_)(\w+)\(", header, re.MULTILINE):
         names.append(match.group(1))
         if not header[: match.start()].endswith("*/\n"):
             bare.append(match.group(1))
