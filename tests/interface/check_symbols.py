@@ -1,7 +1,8 @@
 """Compares what the header declares with the export map and with the built library.
 
-Fails on a missing or extra name, an undocumented prototype, a C++ runtime symbol, and a needed
-library other than libc (on 32-bit ARM also the loader, for the stack protector).
+Fails on a missing or extra name, an undocumented prototype, a C++ runtime symbol, a needed library
+other than libc (on 32-bit ARM also the loader, for the stack protector), and a call inside the
+library that a function of the same name in a page would redirect.
 """
 import re
 import subprocess
@@ -36,6 +37,8 @@ def main(library, header_path, map_path, nm, readelf):
                if re.match(r"_Z|__gxx|_Unwind|__cxa_(?!finalize)", words[-1])]
     needed = re.findall(r"\(NEEDED\).*\[(.*)\]", tool(readelf, "-d", library))
     foreign = [name for name in needed if not re.match(r"libc\.so|ld-linux-armhf\.so", name)]
+    relocated = re.findall(r"^\S+ +\S+ +R_\S+ +\S+ +(\w+)", tool(readelf, "-rW", library),
+                           re.MULTILINE)
 
     problems = {
         "without a comment": bare,
@@ -46,6 +49,7 @@ def main(library, header_path, map_path, nm, readelf):
         "exported, not declared": sorted(set(exported) - set(names)),
         "C++ runtime symbols": runtime,
         "needed libraries": foreign,
+        "open to redirection": sorted(set(relocated) & set(exported)),
     }
     for title, found in problems.items():
         if found:
