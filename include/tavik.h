@@ -1705,6 +1705,46 @@ TAVIK_API int32_t base64_decode(void* destination, int32_t size, const char* sou
 
 /* ---- Boot environment ---------------------------------------------------------------------- */
 
+/*
+ * Loads the boot loader's variables from the MTD character device that holds them, whole: a CRC-32
+ * as a little-endian word, which covers the rest, then entries of the form "name=value" and a NUL.
+ * A second NUL behind an entry ends them.
+ *
+ * There is one image per process: this function is called once, and not again after
+ * free_uboot_env(). Unless its result is 0 there are no variables, which is no fatal error.
+ *
+ * Result: 0 if the image is good;
+ * 1 if the device is neither MTD_NORFLASH nor MTD_DATAFLASH;
+ * 2 if it is smaller than 5 or larger than 65536 bytes;
+ * 3 if it cannot be read to its end;
+ * 4 if there is no memory;
+ * 5 if the checksum does not match;
+ * negative if it cannot be opened or does not tell its size.
+ */
+TAVIK_API int32_t read_uboot_env(const char* path);
+
+/*
+ * Looks a variable up by its whole name, in the case it is written in. Of two entries with one name
+ * the first counts. A name is compared up to its first "=", and an entry without "=" is none.
+ *
+ * Result: the value, which lives until free_uboot_env() and may be empty; null if there is none.
+ */
+TAVIK_API const char* uboot_getenv(const char* name);
+
+/*
+ * Frees the image. No value that was looked up is valid any more, and of this section crc32() alone
+ * may be called from then on.
+ */
+TAVIK_API void free_uboot_env(void);
+
+/*
+ * Continues a CRC-32 (reflected, polynomial 0xEDB88320) over length bytes of data. Nothing is
+ * inverted here: for the CRC of ISO 3309 start with 0xFFFFFFFF and complement the last result.
+ *
+ * Result: the new value, the start value of the next call; crc itself for no bytes or null data.
+ */
+TAVIK_API uint32_t crc32(uint32_t crc, const void* data, uint32_t length);
+
 /* ---- Catalogues ---------------------------------------------------------------------------- */
 
 #ifdef __cplusplus

@@ -35,7 +35,7 @@ gtest_discover_tests(unit DISCOVERY_MODE PRE_TEST)
 # sanitizer does not allow.
 if(NOT TAVIK_SANITIZE)
   file(GLOB torture_sources CONFIGURE_DEPENDS torture/*.cpp)
-  add_executable(torture support/main.cpp ${torture_sources})
+  add_executable(torture support/main.cpp support/scripted_ioctl.cpp ${torture_sources})
   target_link_libraries(torture PRIVATE test_options)
   gtest_discover_tests(torture DISCOVERY_MODE PRE_TEST)
 endif()

@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
+#include <mtd/mtd-user.h>
 
 #include "support/capture.h"
+#include "support/scripted_ioctl.h"
 #include "tavik.h"
 #include "torture/heap_boundary.h"
 
@@ -45,6 +47,18 @@ TEST(NoMemory, ASelectAsksForAttributesThatCannotBeMade) {
               gen_xselectbox_num(nullptr, ask, 0, " name=m");
             }),
             "\n<select asked disabled>\r\n</select>\r\n");
+}
+
+TEST(NoMemory, BootEnvironmentIsNotThere) {
+  const test::ScriptedIoctl device([](int, unsigned long, void* info) {
+    static_cast<mtd_info_user*>(info)->type = MTD_NORFLASH;
+    static_cast<mtd_info_user*>(info)->size = 5;
+    return 0;
+  });
+  const test::ExhaustedHeap heap;
+  EXPECT_EQ(read_uboot_env("/dev/zero"), 4);
+  EXPECT_EQ(uboot_getenv("a"), nullptr);
+  free_uboot_env();
 }
 
 }  // namespace
