@@ -1701,7 +1701,90 @@ TAVIK_API int32_t base64_decode(void* destination, int32_t size, const char* sou
 
 /* ---- Flat databases ------------------------------------------------------------------------ */
 
+/*
+ * A row of a flat database. The file gives one column a line, and a blank line, one that begins
+ * with a control character, ends the row; two of them leave an empty row between. A value ends at
+ * its first control character, a tab too; spaces belong to it. A line that begins with "#" is a
+ * comment and does nothing, between the lines of a row neither.
+ */
+typedef struct db_row db_row;
+struct db_row {
+  db_row* next;                  /* the next row of the file, or null */
+  uint32_t used;                 /* how many columns the row has */
+  __extension__ char* columns[]; /* their texts; null where there was no memory */
+};
+
+/*
+ * Reads a flat database into a list of rows, in the file's order, and stores its head in list: null
+ * if the file has no row or cannot be opened. The caller releases it with free_db(). Lines of a row
+ * beyond so many columns are dropped, and so is what there is no memory for. Blank lines ahead of
+ * the first row are ignored.
+ *
+ * Result: that of rd_file_line(), 0 or -1; 0 with nothing read if list is null.
+ */
+TAVIK_API int32_t read_db_file(const char* path, uint32_t columns, db_row** list);
+
+/*
+ * Releases a list of rows, null included, with its texts.
+ *
+ * Result: 0.
+ */
+TAVIK_API int32_t free_db(db_row* list);
+
+/*
+ * Looks for the first row that has the column, counted from 0, and whose text there is the same.
+ *
+ * Result: the row, still part of the list; null if there is none or text is null.
+ */
+TAVIK_API db_row* search_db(db_row* list, uint32_t column, const char* text);
+
+/*
+ * Prints a select control with an option for each row that has both columns, counted from 0: the
+ * one gives the option's value, the other its label, both escaped. Every option whose value is
+ * selected, byte for byte, is marked. name goes out as it is, a null name prints no attribute. The
+ * lines end with CR LF, the last tag has no line end.
+ */
+TAVIK_API void gen_selectbox_dbase(const db_row* list, uint32_t value_column, uint32_t label_column,
+                                   const char* name, const char* selected, uint32_t flags)
+    TAVIK_NONNULL(5);
+
+/*
+ * Prints the control of gen_selectbox_dbase() with the value of an item selected, of which size
+ * bytes are read. It is disabled if the item cannot be read or holds the empty value.
+ */
+TAVIK_API void gen_selectbox_dbase_item(const db_row* list, uint32_t value_column,
+                                        uint32_t label_column, const char* directory,
+                                        const char* item, const char* name, int32_t size);
+
 /* ---- Operator names ------------------------------------------------------------------------ */
+
+/* A mobile network's operator, as the modem's answer to AT+COPN (3GPP TS 27.007) names it. */
+typedef struct copn_entry copn_entry;
+struct copn_entry {
+  copn_entry* next; /* the next entry, or null */
+  char numeric[7];  /* the numeric name, at most 6 bytes; it is not checked for digits */
+  char name[27];    /* the long name, at most 26 bytes; a cut can fall inside a UTF-8 sequence */
+};
+
+/*
+ * Appends the operators of a file to the one list that the process has. A line is the numeric name
+ * in double quotes, a comma and the long name in double quotes, without blanks; the line's end can
+ * close the long name, and what follows it does not matter. Longer names are cut. Any other line,
+ * one with an empty name too, is passed over, and so is what there is no memory for.
+ *
+ * Result: that of rd_file_line(), 0 or -1; the list stays as it was if the file cannot be opened.
+ */
+TAVIK_API int32_t read_copn_file(const char* path);
+
+/*
+ * Gives the list of operators, in the order in which they were read. It stays the library's.
+ *
+ * Result: the first entry; null if there is none.
+ */
+TAVIK_API copn_entry* copn_ptr(void);
+
+/* Releases the list of operators, which is empty then. */
+TAVIK_API void free_copn(void);
 
 /* ---- Boot environment ---------------------------------------------------------------------- */
 

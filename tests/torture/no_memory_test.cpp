@@ -61,4 +61,17 @@ TEST(NoMemory, BootEnvironmentIsNotThere) {
   free_uboot_env();
 }
 
+TEST(NoMemory, FilesAndInterfacesAreNotRead) {
+  db_row row = {};
+  db_row* list = &row;
+  const test::ExhaustedHeap heap;
+  EXPECT_EQ(rd_file_line("/dev/null", nullptr, 0), -1);
+  EXPECT_EQ(read_db_file("/dev/null", 2, &list), -1);
+  EXPECT_EQ(list, nullptr);
+  EXPECT_EQ(read_copn_file("/dev/null"), -1);
+  EXPECT_EQ(read_interface_conf(nullptr, nullptr), -1);
+  EXPECT_EQ(read_interface6_conf(nullptr, nullptr), -1);
+  EXPECT_EQ(remove_filef("%s", "/none"), -1);
+}
+
 }  // namespace
