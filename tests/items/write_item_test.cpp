@@ -96,24 +96,17 @@ TEST(UpdateItem, FailuresCreateNothing) {
   EXPECT_EQ(update_item(dir.c_str(), "", "v", 1), -1) << "the read of a directory fails";
 }
 
-// The next descriptor that the process will be given.
-int next_descriptor() {
-  const int fd = dup(0);
-  close(fd);
-  return fd;
-}
-
 TEST(UpdateItem, AFailedTransferIsTold) {
   const TempDir dir;
   dir.put("item", "old\n");
   {
-    const test::ScriptedIo io(next_descriptor(), {{EIO}});
+    const test::ScriptedIo io(test::next_descriptor(), {{EIO}});
     EXPECT_EQ(update_item(dir.c_str(), "item", "value", 10), -1);
   }
   EXPECT_EQ(dir.get("item"), "old\n") << "unreadable, so unchanged";
   {
     // Two reads of the stored text, then the write.
-    const test::ScriptedIo io(next_descriptor(), {{0, 4}, {0, 0}, {0, 2}, {ENOSPC}});
+    const test::ScriptedIo io(test::next_descriptor(), {{0, 4}, {0, 0}, {0, 2}, {ENOSPC}});
     EXPECT_EQ(update_item(dir.c_str(), "item", "value", 10), -1);
     EXPECT_EQ(errno, ENOSPC);
   }

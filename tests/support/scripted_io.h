@@ -27,4 +27,7 @@ class ScriptedIo {
   int calls() const;
 };
 
+// The descriptor that the next open() will give.
+int next_descriptor();
+
 }  // namespace test
