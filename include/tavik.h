@@ -808,6 +808,46 @@ TAVIK_API int32_t textbox_filter_smtp(uint32_t position, uint32_t character);
 
 /* ---- Text area ----------------------------------------------------------------------------- */
 
+/*
+ * Prints a text area. The text stands in it escaped, with its line ends as they are; a null text
+ * leaves it empty. What the format yields goes into the tag as it is, nothing for a null format,
+ * and the flags' attributes follow.
+ */
+TAVIK_API void gen_textarea(const char* text, uint32_t flags, const char* format, ...)
+    TAVIK_PRINTF(3, 4);
+
+/*
+ * Copies a submitted text without its CRs, wherever they stand. destination holds as many bytes as
+ * the source and its terminator, and may be the source itself.
+ */
+TAVIK_API void textarea_to_unix(char* destination, const char* source);
+
+/*
+ * Reads a text area's file into a heap buffer of 3 x maximum + 1 bytes, up to its first NUL. The
+ * file's bytes, line ends included, are the text; one longer than maximum characters is cut there,
+ * and invalid UTF-8 ends it behind the invalid sequence.
+ *
+ * The caller frees *text after every result but -1, which leaves it untouched.
+ *
+ * Result: the buffer's size in bytes; 0, with the empty text, if the file cannot be opened; -1 if
+ * an argument is null or there is no memory. A failed read gives the size and the empty text.
+ */
+TAVIK_API int32_t get_textarea_file(char** text, const char* directory, const char* name,
+                                    uint32_t maximum);
+
+/*
+ * Stores a text in an existing file, of which 3 x maximum bytes are read, if the whole text differs
+ * from these: its first maximum characters are written, no further than behind its first invalid
+ * sequence, and nothing is added. The same text is only read, and the file's time stamps stay. A
+ * text that was cut for the file differs from it, and is written again.
+ *
+ * Result: 0 if nothing was written; else the bytes written + 1, so that an emptied file gives 1;
+ * negative on failure, -2 for no memory. The file is then unchanged, but for a failed write, which
+ * leaves it truncated or partly written. A missing file is a failure, and none comes into being.
+ */
+TAVIK_API int32_t update_textarea_file(const char* directory, const char* name, const char* text,
+                                       uint32_t maximum);
+
 /* ---- Select boxes -------------------------------------------------------------------------- */
 
 /*
