@@ -1181,6 +1181,50 @@ TAVIK_API const char* cron_weekdays(char* buffer, uint32_t size, uint32_t mask);
 
 /* ---- Radio buttons, buttons, images, uploads ----------------------------------------------- */
 
+/*
+ * Prints a radio button with a number as its value, which is on if value and current are equal or
+ * PF_CHECKED is set. The name and the attribute text, which stands ahead of the flags' attributes,
+ * go out as they are; either may be null.
+ *
+ * Result: that of printing the closing ">", EOF on failure.
+ */
+TAVIK_API int32_t gen_radio(const char* name, uint32_t value, uint32_t current,
+                            const char* attributes, uint32_t flags);
+
+/*
+ * Prints a radio button as gen_radio() does, with a text as its value, which goes out as it is. A
+ * null value prints no value attribute; a null value or current text equals nothing.
+ *
+ * Result: as gen_radio().
+ */
+TAVIK_API int32_t gen_radio_string(const char* name, const char* value, const char* current,
+                                   const char* attributes, uint32_t flags);
+
+/*
+ * Prints a button element, of type "submit" with PF_SUBMIT, else of type "button". In the tag, what
+ * the format yields goes out as it is, nothing for a null format, ahead of the flags' attributes.
+ * Inside the element, callback(flags) prints what it likes, its result is ignored, and the escaped
+ * label follows. Callback and label may be null.
+ */
+TAVIK_API void gen_xbutton(const char* label, int32_t (*callback)(uint32_t flags), uint32_t flags,
+                           const char* format, ...) TAVIK_PRINTF(4, 5);
+
+/*
+ * Prints an image whose source is base and file, joined with nothing between them and not escaped;
+ * nothing at all if either is null. The alternative text is escaped, and a null one prints no alt
+ * attribute. What the format yields follows as it is, nothing for a null format.
+ */
+TAVIK_API void gen_image(const char* base, const char* file, const char* alternative,
+                         const char* format, ...) TAVIK_PRINTF(4, 5);
+
+/*
+ * Prints the control that chooses a file for upload. What the format yields, the name included,
+ * goes out as it is, nothing for a null format, ahead of the flags' attributes.
+ *
+ * Result: as gen_radio().
+ */
+TAVIK_API int32_t gen_upload(uint32_t flags, const char* format, ...) TAVIK_PRINTF(2, 3);
+
 /* ---- IPv4 addresses ------------------------------------------------------------------------ */
 
 /* ---- IPv4 addresses with prefix ------------------------------------------------------------ */
