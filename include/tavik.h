@@ -1227,6 +1227,87 @@ TAVIK_API int32_t gen_upload(uint32_t flags, const char* format, ...) TAVIK_PRIN
 
 /* ---- IPv4 addresses ------------------------------------------------------------------------ */
 
+/*
+ * An address is one word in network byte order, as inet_addr() gives it, and so is a netmask; only
+ * gen_netmask() and gen_prefix() work in host byte order. As text it is a dotted quad of at most 15
+ * characters. 255.255.255.255, which is INADDR_NONE, reads as invalid text.
+ */
+
+/*
+ * Prints a text input for an address: name, size, a maxlength of 15, value and the flags'
+ * attributes. The name goes out as it is, and a null one prints no name attribute; a size of 0 is
+ * 15. Without an address nothing is printed.
+ */
+TAVIK_API void gen_ipv4box(const char* name, uint32_t size, const uint32_t* address,
+                           uint32_t flags);
+
+/*
+ * Prints a text input for an address as gen_ipv4box() does, but a negative size prints no size
+ * attribute, and what the format yields, the name included, goes out as it is behind the value; a
+ * null format prints nothing.
+ */
+TAVIK_API void gen_xipv4box(int32_t size, const uint32_t* address, uint32_t flags,
+                            const char* format, ...) TAVIK_PRINTF(4, 5);
+
+/*
+ * Takes an address off a submitted text, by the rules of inet_addr(); invalid text gives the
+ * fallback.
+ *
+ * Result: 1 if *held differed and got the address; 0 otherwise, with *held untouched.
+ */
+TAVIK_API int32_t scan_ipv4(const char* text, uint32_t* held, uint32_t fallback);
+
+/*
+ * Takes a netmask off a submitted text and stores it, changed or not. Only the leading one bits
+ * count; invalid text counts as all ones. A prefix below lowest becomes lowest, then one of highest
+ * or more becomes highest, which so wins where the bounds cross. Bounds above 32 act as 32.
+ *
+ * Result: 1; 0, with nothing stored, if text or held is null.
+ */
+TAVIK_API int32_t scan_ipv4_netmask(const char* text, uint32_t* held, uint32_t lowest,
+                                    uint32_t highest);
+
+/*
+ * Moves an address off the reserved host parts of its subnet: one without host bits becomes the
+ * first host, then one whose host bits are all set becomes the last. Under a /32 mask the address
+ * stays, under a /31 mask the even one of the pair is stored, under a /0 mask every address stays.
+ *
+ * Result: 1 if *result got an address; 0, with *result untouched, for a null result and for the
+ * addresses 0 and INADDR_NONE.
+ */
+TAVIK_API int32_t valid_ipv4_addr(uint32_t* result, uint32_t address, uint32_t mask);
+
+/*
+ * Reads an address item of at most 15 bytes into *result. An item that cannot be read, or holds no
+ * valid address, gives the fallback.
+ *
+ * Result: 0 if the item could be read, whatever it holds; else 1.
+ */
+TAVIK_API int32_t rd_ipv4box_item(const char* directory, const char* name, uint32_t* result,
+                                  uint32_t fallback);
+
+/*
+ * Stores an address as a dotted quad, as update_item() does.
+ *
+ * Result: as update_item(); -1 for a null address.
+ */
+TAVIK_API int32_t update_ipv4box_item(const char* directory, const char* name,
+                                      const uint32_t* address);
+
+/*
+ * Makes a mask of as many one bits as the prefix tells, from bit 31 downward.
+ *
+ * Result: the mask in host byte order; all ones for a prefix of 32 or more.
+ */
+TAVIK_API uint32_t gen_netmask(uint32_t prefix);
+
+/*
+ * Counts the one bits of a mask in host byte order, from bit 31 down to the first zero bit.
+ *
+ * Result: the prefix length, 0 to 32.
+ */
+TAVIK_API uint32_t gen_prefix(uint32_t mask);
+
 /* ---- IPv4 addresses with prefix ------------------------------------------------------------ */
 
 /* ---- MAC addresses ------------------------------------------------------------------------- */
