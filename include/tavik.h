@@ -1310,6 +1310,59 @@ TAVIK_API uint32_t gen_prefix(uint32_t mask);
 
 /* ---- IPv4 addresses with prefix ------------------------------------------------------------ */
 
+/* An address with its prefix length: as text a dotted quad, "/" and the prefix, 18 characters. */
+typedef struct ipv4_cidr ipv4_cidr;
+struct ipv4_cidr {
+  uint32_t address; /* in network byte order */
+  uint32_t prefix;  /* 0 to 32 as scan_ipv4cidr() stores it */
+};
+
+/*
+ * Prints a text input for an address with prefix: name, size, a maxlength of 18, value and the
+ * flags' attributes. The name goes out as it is, and a null one prints no name attribute; a size of
+ * 0 is 18, and a prefix above 32 shows as 32. Without a value nothing is printed.
+ */
+TAVIK_API void gen_ipv4cidr(const char* name, uint32_t size, const ipv4_cidr* value,
+                            uint32_t flags);
+
+/*
+ * Prints a text input for an address with prefix as gen_ipv4cidr() does, but a negative size prints
+ * no size attribute, and what the format yields, the name included, goes out as it is behind the
+ * value; a null format prints nothing.
+ */
+TAVIK_API void gen_xipv4cidr(int32_t size, const ipv4_cidr* value, uint32_t flags,
+                             const char* format, ...) TAVIK_PRINTF(4, 5);
+
+/*
+ * Takes an address with prefix off a submitted text, split at its last "/". What stands ahead is
+ * the address, by the rules of inet_addr(), and invalid text gives the fallback. The prefix is the
+ * digits directly behind, modulo 2^32 and at most 32, with whatever follows ignored; it is 0
+ * without a digit, 32 without a "/", and always 0 with the address 0, the fallback's too. A mask
+ * flag that is not 0 then clears the address's host bits.
+ *
+ * Result: 1 if *held differed and got the value; 0 otherwise, with *held untouched.
+ */
+TAVIK_API int32_t scan_ipv4cidr(const char* text, ipv4_cidr* held, uint32_t fallback,
+                                uint32_t mask);
+
+/*
+ * Reads an item of at most 18 bytes into *value, as scan_ipv4cidr() does without masking. An item
+ * that cannot be read gives the fallback with the prefix 32, or 0 if the fallback is 0.
+ *
+ * Result: 0 if the item could be read, whatever it holds; else 1.
+ */
+TAVIK_API int32_t rd_ipv4cidr_item(const char* directory, const char* name, ipv4_cidr* value,
+                                   uint32_t fallback);
+
+/*
+ * Stores an address with prefix, as update_item() does. A prefix above 32 is stored as it is, as
+ * far as 18 characters go.
+ *
+ * Result: as update_item(); -1 for a null value.
+ */
+TAVIK_API int32_t update_ipv4cidr_item(const char* directory, const char* name,
+                                       const ipv4_cidr* value);
+
 /* ---- MAC addresses ------------------------------------------------------------------------- */
 
 /* ============================================================================================

@@ -3,6 +3,7 @@
 
 #include "support/capture.h"
 #include "support/scripted_ioctl.h"
+#include "support/temp_dir.h"
 #include "tavik.h"
 #include "torture/heap_boundary.h"
 
@@ -72,6 +73,28 @@ TEST(NoMemory, FilesAndInterfacesAreNotRead) {
   EXPECT_EQ(read_interface_conf(nullptr, nullptr), -1);
   EXPECT_EQ(read_interface6_conf(nullptr, nullptr), -1);
   EXPECT_EQ(remove_filef("%s", "/none"), -1);
+}
+
+TEST(NoMemory, AnAddressAheadOfAPrefixFallsBack) {
+  ipv4_cidr value = {5, 5};
+  const test::ExhaustedHeap heap;
+  EXPECT_EQ(scan_ipv4cidr("10.1.2.3/24", &value, 77, 0), 1);
+  EXPECT_EQ(value.address, 77U);
+  EXPECT_EQ(value.prefix, 24U);
+}
+
+TEST(NoMemory, ATextAreasFileStaysAsItIs) {
+  const test::TempDir dir;
+  dir.put("text", "old");
+  char untouched[] = "";
+  char* text = untouched;
+  {
+    const test::ExhaustedHeap heap;
+    EXPECT_EQ(get_textarea_file(&text, dir.c_str(), "text", 9), -1);
+    EXPECT_EQ(update_textarea_file(dir.c_str(), "text", "new", 9), -2);
+  }
+  EXPECT_EQ(text, untouched);
+  EXPECT_EQ(dir.get("text"), "old");
 }
 
 }  // namespace
