@@ -1365,6 +1365,56 @@ TAVIK_API int32_t update_ipv4cidr_item(const char* directory, const char* name,
 
 /* ---- MAC addresses ------------------------------------------------------------------------- */
 
+/*
+ * An address is the first six bytes of a socket address record's sa_data, in transmission order, as
+ * the kernel gives them in an interface request. As text it is six pairs of upper-case hexadecimal
+ * digits with a separator between them, 17 characters.
+ */
+struct sockaddr;
+
+/*
+ * Formats an address into a buffer of size bytes, cut to size - 1 characters and terminated.
+ * Nothing is written if size is 0 or a pointer is null.
+ *
+ * Result: the buffer.
+ */
+TAVIK_API char* mac_ntop(const struct sockaddr* address, char separator, char* buffer,
+                         uint32_t size);
+
+/*
+ * Tells a usable address from the all-zero and the all-ones one. A multicast address is usable.
+ *
+ * Result: 1 if usable, else 0.
+ */
+TAVIK_API int32_t mac_isvalid(const struct sockaddr* address);
+
+/*
+ * Asks the kernel for an interface's hardware address and formats it as mac_ntop() does. The name's
+ * first 15 bytes count. On failure the buffer holds the empty text; it is untouched if size is 0.
+ *
+ * Result: the buffer.
+ */
+TAVIK_API char* if_hwaddr_ntop(const char* interface, char separator, char* buffer, uint32_t size);
+
+/*
+ * Prints a text input for a MAC address, shown with "-" as the separator: a maxlength of 18, left
+ * out with PF_READONLY, then size, value, what the format yields, and the flags' attributes. A size
+ * of 0 is 18, a negative one prints no size attribute. The format's output, the name included, goes
+ * out as it is; a null format prints nothing. Without an address nothing is printed.
+ */
+TAVIK_API void gen_xmacbox(int32_t size, const struct sockaddr* address, uint32_t flags,
+                           const char* format, ...) TAVIK_PRINTF(4, 5);
+
+/*
+ * Takes a MAC address off a submitted text. The family becomes ARPHRD_ETHER in any case, and every
+ * text gives an address: each byte is one or two hexadecimal digits, any other single character
+ * behind them is a separator, but none is needed. A separator without digits ahead of it is a byte
+ * 0, missing bytes are 0, those of a null text too, and what follows the sixth is ignored.
+ *
+ * Result: 1 if the held address differed and got the new one; 0 otherwise.
+ */
+TAVIK_API int32_t scan_macaddr(struct sockaddr* address, const char* text);
+
 /* ============================================================================================
  * Credentials and certificates
  * ========================================================================================= */
