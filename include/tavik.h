@@ -64,9 +64,9 @@ extern "C" {
 /* One decoded name and value. The texts are writable and live until the handler returns. */
 typedef struct cgi_attr cgi_attr;
 struct cgi_attr {
-  cgi_attr* parent; /* null for every record of URL-encoded text */
+  cgi_attr* parent; /* the record of the header line of which this is an attribute, else null */
   char* name;       /* never null, may be empty */
-  char* value;      /* never null for URL-encoded text; empty for a name without "=" */
+  char* value;      /* never null, may be empty */
 };
 
 /* Where the records that a cgi_handler gets come from. */
@@ -90,26 +90,104 @@ typedef int32_t (*cgi_handler)(void* context, cgi_attr* attrs, int32_t count, in
  * GET and HEAD: QUERY_STRING is decoded for query_handler, or for body_handler if that is null,
  * with CGI_KIND_QUERY. POST: if query_handler is not null it gets QUERY_STRING first, with
  * CGI_KIND_POST_QUERY, and a negative result ends the request there; then body_handler gets the
- * body, with CGI_KIND_FORM. At most CONTENT_LENGTH bytes are read from descriptor 0; a body that
- * ends sooner is decoded as far as it came.
+ * body. One of type application/x-www-form-urlencoded, without parameters, comes in one call with
+ * CGI_KIND_FORM: at most CONTENT_LENGTH bytes are read from descriptor 0, and a body that ends
+ * sooner is decoded as far as it came. One of type multipart/form-data whose first parameter is the
+ * boundary comes part by part with CGI_KIND_MULTIPART; of its CONTENT_LENGTH it only counts that it
+ * is not 0.
  *
  * Pairs are separated by "&" or ";", also where that makes an empty pair, and split at their first
  * "="; "+" is a space, and "%" with two digits is a byte, resolved last. Two bytes that are no
  * hexadecimal digits give some byte all the same, "%" with fewer than two bytes behind it ends the
  * text, and "%00" ends it for all who read it as a C string. An empty text calls no handler.
  *
- * Either handler may be null. Result: the handler's result; 0 if the text was empty or could not
- * be copied; the number of pairs if there is no handler or no memory for the records. For a POST
- * it is that of the body, or query_handler's if negative.
+ * The calls for a multipart body (RFC 7578). Each part's body stays on descriptor 0, and the
+ * handler takes it off with scan_boundary():
+ *
+ *   Call                 Records                            Result
+ *   once, first          "boundary" alone: count 1          ignored
+ *   for each part that   "boundary" and the part's header   0: go on with the next part; any other:
+ *   has header lines     lines: count 2 to 6                this was the last
+ *   once, last           null: count 0                      that of getcgivars()
+ *
+ * "boundary" is all that follows "boundary=" in CONTENT_TYPE, quotes included. A header line that
+ * begins with "Content-", in any case, is a record of the text ahead of ":" and that up to ";";
+ * each attribute that follows is one of its name and what stands in its double quotes, byte for
+ * byte. The first without them ends the line. Other lines, and what exceeds 6 records, are dropped.
+ * Behind the fifth header line the body begins; a line of more than 1022 bytes takes the rest of
+ * the input with it. The last call comes also when the input has broken off. A handler that answers
+ * 0 and leaves the body has it read as header lines. Parts without header lines are skipped,
+ * without a handler all are.
+ *
+ * Either handler may be null. Result: the handler's result; 0 if the text was empty or could not be
+ * copied; the number of pairs if there is no handler or no memory for the records, but 0 for a
+ * multipart body without a handler. For a POST it is that of the body, or query_handler's if
+ * negative.
  *
  * What cannot be served prints a plain-text page with one line of message and ends the process
- * with exit(1): REQUEST_METHOD unset or none of the three; on a POST a CONTENT_TYPE that is not
- * exactly the type above, a CONTENT_LENGTH of 0, no memory for the body (every
- * negative length), or a read error.
+ * with exit(1): REQUEST_METHOD unset or none of the three; on a POST a CONTENT_TYPE that is none of
+ * the two above, a CONTENT_LENGTH of 0, no memory for the body (every negative length, if it is
+ * URL-encoded) or for a header line, or a read error.
  */
 TAVIK_API int32_t getcgivars(void* context, cgi_handler body_handler, cgi_handler query_handler);
 
 /* ---- Uploads ------------------------------------------------------------------------------- */
+
+/*
+ * Takes a piece of a part's body: argument is the one given to scan_boundary(), length may be 0.
+ * The data live until it returns; the result is ignored.
+ */
+typedef int32_t (*mpart_sink)(void* argument, const void* data, uint32_t length);
+
+/*
+ * Takes the body of a part off a descriptor, which is 0 for a request, and hands it to the sink,
+ * byte for byte and in order, in pieces of any size; an empty body is one piece of length 0. It
+ * ends at the delimiter: CR LF, "--" and the boundary, which is the text up to its first CR. The
+ * descriptor then stands behind the delimiter's line, or behind four bytes of it if the part was
+ * the last, and not one byte further. The sink may be null. Nothing is kept in memory but about one
+ * kilobyte on the stack.
+ *
+ * Result: 0 if another part follows; end_code if this was the last, which is every delimiter with
+ * something else than CR LF behind it; 2 if the input ended or could not be read, with up to
+ * boundary + 3 bytes of its end not delivered. 2 also for a null boundary and for one of no byte or
+ * more than 1020, which delimits nothing: nothing is read then.
+ */
+TAVIK_API int32_t scan_boundary(int32_t fd, const char* boundary, uint32_t end_code,
+                                mpart_sink sink, void* argument);
+
+/*
+ * Reads a line that ends in CR LF into a buffer of size bytes, without the CR LF and terminated,
+ * and not one byte further. A CR or LF alone belongs to the line. One longer than size - 2 bytes
+ * takes all the rest of the input with it.
+ *
+ * Result: the line's length in bytes, 0 for an empty one; 0 also at the end of the input and
+ * negative on a read error, when buffer is not terminated; -1 if size is below 2.
+ */
+TAVIK_API int32_t full_line_read_fd(int32_t fd, char* buffer, uint32_t size);
+
+/*
+ * An mpart_sink that writes to a stream: argument is the FILE.
+ *
+ * Result: 0, also if the data could not be written; -1 for a null stream.
+ */
+TAVIK_API int32_t mpart_fwrite(void* stream, const void* data, uint32_t length);
+
+/*
+ * An mpart_sink that writes to a descriptor: argument points to it, an int32_t. One of 0 or less
+ * drops the data.
+ *
+ * Result: 0, also if the data could not be written; -1 for a null pointer.
+ */
+TAVIK_API int32_t mpart_write_fd(void* fd, const void* data, uint32_t length);
+
+/*
+ * Reduces a file name sent by a browser to its last component: what follows the last backslash, and
+ * of that what follows the last "/". Nothing else is looked at: "..", and the empty text, can be
+ * the outcome.
+ *
+ * Result: a pointer into path; null for null.
+ */
+TAVIK_API const char* valid_filename(const char* path);
 
 /* ============================================================================================
  * Page output

@@ -3,6 +3,7 @@
 #include <stdlib.h>
 #include <string.h>
 
+#include "request/multipart.h"
 #include "request/url_unescape.h"
 
 namespace tavik {
@@ -39,7 +40,9 @@ cgi_attr decode_pair(char* pair, size_t length) {
 }  // namespace
 
 int32_t cgidecode(void* context, char* text, cgi_handler handler, int32_t kind) {
-  if (text == nullptr || *text == '\0') return 0;
+  if (text == nullptr) return 0;
+  if (kind == CGI_KIND_MULTIPART) return decode_multipart(context, text, handler);
+  if (*text == '\0') return 0;
   const int32_t count = split_pairs(text);
   if (handler == nullptr) return count;
   auto* const attrs = static_cast<cgi_attr*>(calloc(static_cast<size_t>(count), sizeof(cgi_attr)));

@@ -6,7 +6,8 @@
 
 namespace tavik {
 
-// text is decoded in place and may be null, as may handler. The result is the handler's, or what
+// text is decoded in place and may be null, as may handler. For CGI_KIND_MULTIPART it is the
+// boundary, and what is decoded comes from standard input. The result is the handler's, or what
 // getcgivars() tells of a text without a handler call.
 int32_t cgidecode(void* context, char* text, cgi_handler handler, int32_t kind);
 

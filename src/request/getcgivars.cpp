@@ -6,6 +6,7 @@
 #include "items/heap_text.h"
 #include "request/cgidecode.h"
 #include "request/fatal.h"
+#include "request/skip_space.h"
 #include "tavik.h"
 
 using tavik::cgidecode;
@@ -24,11 +25,31 @@ Method request_method() {
   fatal("getcgivars(): Unsupported REQUEST_METHOD.\r");
 }
 
-void check_content_type() {
+struct BodyType {
+  int32_t kind;
+  const char* boundary;  // null but for a multipart body
+};
+
+// The parameter of a multipart type; null if it is another type, or it has another parameter ahead.
+const char* find_boundary(const char* type) {
+  constexpr char kType[] = "multipart/form-data";
+  constexpr char kBoundary[] = "boundary=";
+  const char* const semicolon = strchr(type, ';');
+  if (semicolon == nullptr) return nullptr;
+  if (strncasecmp(type, kType, static_cast<size_t>(semicolon - type)) != 0) return nullptr;
+  const char* const parameter = tavik::skip_space(semicolon + 1);
+  if (strncasecmp(parameter, kBoundary, sizeof kBoundary - 1) != 0) return nullptr;
+  return parameter + sizeof kBoundary - 1;
+}
+
+BodyType body_type() {
   const char* const type = getenv("CONTENT_TYPE");
-  if (type == nullptr || strcasecmp(type, "application/x-www-form-urlencoded") != 0) {
-    fatal("getcgivars(): Unsupported Content-Type.\r");
+  if (type != nullptr && strcasecmp(type, "application/x-www-form-urlencoded") == 0) {
+    return {CGI_KIND_FORM, nullptr};
   }
+  const char* const boundary = type == nullptr ? nullptr : find_boundary(type);
+  if (boundary == nullptr) fatal("getcgivars(): Unsupported Content-Type.\r");
+  return {CGI_KIND_MULTIPART, boundary};
 }
 
 int32_t content_length() {
@@ -59,13 +80,16 @@ char* read_body(int32_t length) {
 }
 
 int32_t decode_post(void* context, cgi_handler body_handler, cgi_handler query_handler) {
-  check_content_type();
+  const BodyType type = body_type();
+  const bool multipart = type.kind == CGI_KIND_MULTIPART;
+  // A copy, since the query's handler may change the environment.
+  HeapText text(multipart ? strdup(type.boundary) : nullptr);
   const int32_t length = content_length();
   int32_t queried = 0;
   if (query_handler != nullptr) queried = decode_query(context, query_handler, CGI_KIND_POST_QUERY);
-  const HeapText body(read_body(length));
+  if (!multipart) *text.out() = read_body(length);
   if (queried < 0) return queried;
-  return cgidecode(context, body.get(), body_handler, CGI_KIND_FORM);
+  return cgidecode(context, text.get(), body_handler, type.kind);
 }
 
 }  // namespace

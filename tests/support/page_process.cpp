@@ -1,7 +1,6 @@
 #include "support/page_process.h"
 
 #include <fcntl.h>
-#include <sys/mman.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -10,6 +9,8 @@
 #include <iterator>
 #include <sstream>
 #include <thread>
+
+#include "support/input_file.h"
 
 namespace test {
 
@@ -91,18 +92,14 @@ int exit_status(pid_t child) {
 }
 
 PageAnswer run_from_file(const std::string& program, const PageRequest& request) {
-  const int file = memfd_create("body", MFD_CLOEXEC);
-  std::string rest = request.body;
-  if (write(file, rest.data(), rest.size()) != static_cast<ssize_t>(rest.size())) return {};
-  lseek(file, 0, SEEK_SET);
+  const InputFile file(request.body);
   const Pipe output;
-  const pid_t child = start(program, request, file, output.write_end);
+  const pid_t child = start(program, request, file.fd(), output.write_end);
   close(output.write_end);
   PageAnswer answer;
   answer.output = drain(output.read_end);
   answer.status = exit_status(child);
-  answer.unread = request.body.size() - static_cast<size_t>(lseek(file, 0, SEEK_CUR));
-  close(file);
+  answer.unread = file.left();
   return answer;
 }
 
