@@ -29,6 +29,19 @@ static void request(void) {
   CHECK(getcgivars(&kind, count_query, NULL) == 2 && kind == CGI_KIND_QUERY);
 }
 
+static void uploads(void) {
+  int ends[2];
+  char line[8];
+  if (pipe(ends) != 0) return;
+  int32_t fd = ends[1];
+  CHECK(mpart_write_fd(&fd, "a\r\nbody\r\n--B--\r\n", 16) == 0);
+  CHECK(full_line_read_fd(ends[0], line, sizeof line) == 1 && strcmp(line, "a") == 0);
+  CHECK(scan_boundary(ends[0], "B", 3, mpart_fwrite, stdout) == 3);
+  CHECK(strcmp(valid_filename("C:\\a"), "a") == 0);
+  close(ends[0]);
+  close(ends[1]);
+}
+
 static void output(void) {
   const char* text = "\xC3\xA9";
   const char* cursor = text;
@@ -112,12 +125,38 @@ static void items(const char* directory) {
   remove_item(directory, "joined");
 }
 
+static int32_t first_byte;
+
+static int32_t note_line(uintptr_t context, char* text) {
+  first_byte = text[context];
+  return 0;
+}
+
+static void commands(const char* directory) {
+  char* heap = NULL;
+  shell_output list = {NULL, 0};
+  CHECK(run_shell(PF_PRE, "exit %d", 1) == 256);
+  CHECK(asprint_shell(&heap, "echo a") == 4096 && strcmp(heap, "a") == 0);
+  free(heap);
+  CHECK(asprint_title_shell(&heap, "echo a") == 10);
+  free(heap);
+  CHECK(shell_run(&list, "echo ab") == 0 && list.count == 1);
+  shell_line(&list, note_line, 1);
+  CHECK(first_byte == 'b');
+  list.first = NULL;
+  shell_print(&list, PF_PRE);
+  CHECK(signal_process(directory, "missing", 0) == -1);
+  CHECK(strcmp(get_progname(1, "a/b"), "b") == 0);
+}
+
 int main(void) {
   char directory[] = "tavik-XXXXXX";
   if (mkdtemp(directory) == NULL) return 1;
   request();
+  uploads();
   output();
   items(directory);
+  commands(directory);
   rmdir(directory);
   return failures != 0;
 }

@@ -1,12 +1,17 @@
 #include "torture/heap_boundary.h"
 
 #include <cerrno>
+#include <cstdint>
 #include <cstdlib>
 
 namespace {
 
 size_t count = 0;
-bool exhausted = false;
+size_t limit = SIZE_MAX;
+
+bool granted() {
+  return count++ < limit;
+}
 
 }  // namespace
 
@@ -17,18 +22,15 @@ void* __libc_calloc(size_t number, size_t size);
 void* __libc_realloc(void* block, size_t size);
 
 void* malloc(size_t size) {
-  ++count;
-  return exhausted ? nullptr : __libc_malloc(size);
+  return granted() ? __libc_malloc(size) : nullptr;
 }
 
 void* calloc(size_t number, size_t size) {
-  ++count;
-  return exhausted ? nullptr : __libc_calloc(number, size);
+  return granted() ? __libc_calloc(number, size) : nullptr;
 }
 
 void* realloc(void* block, size_t size) {
-  ++count;
-  return exhausted ? nullptr : __libc_realloc(block, size);
+  return granted() ? __libc_realloc(block, size) : nullptr;
 }
 
 }  // extern "C"
@@ -39,11 +41,11 @@ size_t allocations() {
   return count;
 }
 
-ExhaustedHeap::ExhaustedHeap() {
-  exhausted = true;
+ExhaustedHeap::ExhaustedHeap(size_t granted) {
+  limit = count + granted;
 }
 ExhaustedHeap::~ExhaustedHeap() {
-  exhausted = false;
+  limit = SIZE_MAX;
 }
 
 }  // namespace test

@@ -9,10 +9,11 @@ namespace test {
 // Allocations, and reallocations, so far in this process.
 size_t allocations();
 
-// While it lives, every allocation and reallocation of the process fails; freeing works.
+// While it lives, every allocation and reallocation of the process fails, but for the first so
+// many; freeing works.
 class ExhaustedHeap {
  public:
-  ExhaustedHeap();
+  explicit ExhaustedHeap(size_t granted = 0);
   ~ExhaustedHeap();
   ExhaustedHeap(const ExhaustedHeap&) = delete;
   ExhaustedHeap& operator=(const ExhaustedHeap&) = delete;

@@ -3,6 +3,7 @@
 #include <unistd.h>
 
 #include "support/capture.h"
+#include "support/input_file.h"
 #include "support/temp_dir.h"
 #include "tavik.h"
 #include "torture/heap_boundary.h"
@@ -94,6 +95,17 @@ TEST_F(NoHeap, TextBoxes) {
               gen_text_item(dir, "a");
             }),
             0U);
+}
+
+TEST_F(NoHeap, Uploads) {
+  const test::InputFile body("line\r\n" + std::string(100000, 'x') + "\r\n--B--\r\n");
+  EXPECT_EQ(allocated([&body] {
+              char line[10];
+              full_line_read_fd(body.fd(), line, sizeof line);
+              scan_boundary(body.fd(), "B", 1, mpart_fwrite, stdout);
+            }),
+            0U);
+  EXPECT_EQ(body.left(), 0U);
 }
 
 }  // namespace
