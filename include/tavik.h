@@ -1921,8 +1921,8 @@ TAVIK_API int32_t xtable_move_dn_row(xtable* table, uint32_t index);
  * to rows: width is sizeof(xtable_row*), not the size of a record, and the arguments of compare
  * point to such pointers. Rows that compare as equal stand as qsort() left them.
  *
- * A table of one row is not looked at. No other width, a null compare, a number of the last row
- * that is not the count of rows, and lack of memory leave the order as it was.
+ * The order stays as it was with another width, with a null compare, if the last row's number is
+ * not the count of rows, and without memory.
  *
  * Result: 0 for a null or empty table, or a last row that bears the number 0; 1 in all other cases,
  * sorted or not.
@@ -2175,6 +2175,65 @@ TAVIK_API void free_uboot_env(void);
 TAVIK_API uint32_t crc32(uint32_t crc, const void* data, uint32_t length);
 
 /* ---- Catalogues ---------------------------------------------------------------------------- */
+
+/*
+ * A selectbox_text_row of the ciphers that a VPN can use, "none" as the last. arg is not used, and
+ * out may be null.
+ *
+ * Result: 1; -1, with out untouched, for an index above 12.
+ */
+TAVIK_API int32_t get_ovpn_cipher(uint32_t index, uintptr_t arg, selectbox_text_option* out);
+
+/*
+ * A selectbox_text_row of the digests that a VPN can use, as get_ovpn_cipher() is of ciphers.
+ *
+ * Result: 1; -1, with out untouched, for an index above 6.
+ */
+TAVIK_API int32_t get_ovpn_hash(uint32_t index, uintptr_t arg, selectbox_text_option* out);
+
+/*
+ * Tells how many septets a character takes in a short message, by the GSM 7-bit default alphabet
+ * and its extension table (3GPP TS 23.038). It departs from the standard's tables in three places:
+ * U+00E7 can be sent and U+00C7 cannot, nor can the form feed.
+ *
+ * Result: 1; 2 for a character of the extension table; 0 for one that cannot be sent.
+ */
+TAVIK_API int32_t check_ucs2_to_gsm(uint32_t character);
+
+/* A row of a table for get_infoflags(). */
+typedef struct infoflag_row infoflag_row;
+struct infoflag_row {
+  uint32_t mask;    /* the flag bits that the row governs; 0 ends the table */
+  int32_t position; /* the byte of the texts that decides on them, from 0 */
+};
+
+/*
+ * Clears the bits of a flag word that a string of switches, one byte each, does not leave on. For
+ * each row the byte at its position decides, that of second where first is too short: a byte above
+ * "0" keeps the row's bits, any other, or none, clears them. Bits of no row stay.
+ *
+ * table and second may be null: the flags are then as they were, or first stands alone.
+ *
+ * Result: the flags left; 0 if first is null or empty.
+ */
+TAVIK_API uint32_t get_infoflags(uint32_t flags, const infoflag_row* table, const char* first,
+                                 const char* second);
+
+/* A row of a table for get_devinfo(). */
+typedef struct devinfo_row devinfo_row;
+struct devinfo_row {
+  int32_t code;              /* 0 ends the table */
+  uintptr_t caller_words[7]; /* the page's own, not looked at */
+};
+
+/*
+ * Looks up the row for a device's code, the first byte of a text: the first row in the table's
+ * order whose code is at least that.
+ *
+ * Result: the row; the table's first row if there is none, or text is null or empty.
+ */
+TAVIK_API const devinfo_row* get_devinfo(const devinfo_row* table, const char* text)
+    TAVIK_NONNULL(1);
 
 #ifdef __cplusplus
 }
