@@ -149,6 +149,56 @@ static void commands(const char* directory) {
   CHECK(strcmp(get_progname(1, "a/b"), "b") == 0);
 }
 
+static int by_number(const void* left, const void* right) {
+  const xtable_row* a = *(xtable_row* const*)left;
+  const xtable_row* b = *(xtable_row* const*)right;
+  return a->index < b->index ? 1 : -1;
+}
+
+static void tables(void) {
+  xtable table = {NULL, NULL};
+  xtable_row* row = xtable_new_row(&table, sizeof *row);
+  xtable_add_row(&table, calloc(1, sizeof *row));
+  CHECK(xtable_index_row(&table) == 2);
+  CHECK(xtable_sort(&table, sizeof row, by_number) == 1 && table.tail == row);
+  CHECK(xtable_move_up_row(&table, 2) == 1 && xtable_search_row(&table, 1) == row);
+  CHECK(xtable_move_dn_row(&table, 1) == 1 && xtable_del_row(&table, 1) == 1);
+  xtable_rm_row(&table, row);
+  xtable_cleanup(&table);
+  CHECK(table.head == NULL);
+}
+
+static void documents(void) {
+  xml_data doc = {0, 0, NULL};
+  xml_data_header(&doc);
+  xml_data_tag(&doc, "a", XML_TAG_START);
+  xml_data_attr_str(&doc, "b", "c");
+  xml_data_attr_num(&doc, "d", 1);
+  xml_data_tag(&doc, NULL, XML_TAG_OPEN);
+  xml_data_element(&doc, "e", "<");
+  xml_data_txt(&doc, "\n", UINT32_MAX);
+  xml_data_str(&doc, "f");
+  CHECK(xml_data_txt_fd(&doc, open("/dev/null", O_RDONLY)) == 0);
+  xml_data_tag(&doc, "a", XML_TAG_CLOSE);
+  xml_data_append(&doc, NULL, 1);
+  CHECK(strcmp(strchr(doc.buffer, '\n'), "\n<a b=\"c\" d=\"1\"><e>&lt;</e>\n&#10;f</a>\n") == 0);
+  free(doc.buffer);
+}
+
+static void catalogues(void) {
+  const infoflag_row flags[] = {{1, 0}, {0, 0}};
+  const devinfo_row devices[] = {{1, {0}}, {0, {0}}};
+  selectbox_text_option option = {NULL, NULL};
+  CHECK(crc32(0xFFFFFFFF, "123456789", 9) == 0x340BC6D9);
+  CHECK(read_uboot_env("/dev/null") == -1 && uboot_getenv("a") == NULL);
+  free_uboot_env();
+  CHECK(get_ovpn_cipher(12, 0, &option) == 1 && strcmp(option.value, "none") == 0);
+  CHECK(get_ovpn_hash(0, 0, &option) == 1 && strcmp(option.label, "MD5") == 0);
+  CHECK(check_ucs2_to_gsm('{') == 2);
+  CHECK(get_infoflags(3, flags, "0", NULL) == 2);
+  CHECK(get_devinfo(devices, "a") == devices);
+}
+
 int main(void) {
   char directory[] = "tavik-XXXXXX";
   if (mkdtemp(directory) == NULL) return 1;
@@ -157,6 +207,9 @@ int main(void) {
   output();
   items(directory);
   commands(directory);
+  tables();
+  documents();
+  catalogues();
   rmdir(directory);
   return failures != 0;
 }
