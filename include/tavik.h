@@ -413,6 +413,73 @@ TAVIK_API uint32_t get_print_flags(uint32_t flags, const char* text);
 
 /* ---- Page frame ---------------------------------------------------------------------------- */
 
+/*
+ * The frame of a page: print_head_p1(); in the head, as often as needed and in any order,
+ * print_head_refresh(), print_head_css() and print_head_script(); print_head_p2(); the page's
+ * content; print_foot(). Its lines end with CR LF. Files are copied into the page as they are; one
+ * that cannot be opened counts as absent, and one that breaks off ends there. None has a result.
+ */
+
+/*
+ * Begins a page: prints the first two texts, "<html>" and "<head>", and the third text. The texts
+ * go out as they are and may be null; what stands ahead of the markup, HTTP header lines and the
+ * document type, is in the first two.
+ */
+TAVIK_API void print_head_p1(const char* first, const char* second, const char* third);
+
+/*
+ * Makes the browser load another page after so many seconds, or the same page for a null format.
+ * What the format yields is the URL and goes out as it is, so that quotes in it are the page's
+ * business. If it yields nothing or fails, the tag has no content and asks for nothing.
+ */
+TAVIK_API void print_head_refresh(uint32_t seconds, const char* format, ...) TAVIK_PRINTF(2, 3);
+
+/*
+ * Prints one style element with the contents of all files that can be opened, with nothing between
+ * them, or nothing if there is none. A null pointer ends the list of paths.
+ */
+TAVIK_API void print_head_css(const char* path, ...);
+
+/* What print_head_script() prints; no print flags. */
+#define SCRIPT_OPEN 0x1U  /* the opening tag */
+#define SCRIPT_CLOSE 0x2U /* the closing tag */
+#define SCRIPT_FILE 0x4U  /* the content of the file at the path; else path is the script itself */
+
+/*
+ * Prints a script element or a part of one, so that it can be put together over several calls: with
+ * SCRIPT_OPEN, with neither, with SCRIPT_CLOSE. The script goes out as it is, with no line end
+ * added. Without content, that is for a null path or a file that cannot be opened, a tag asked for
+ * alone is printed all the same; a whole element is left out.
+ */
+TAVIK_API void print_head_script(uint32_t flags, const char* path);
+
+/*
+ * Ends the head and begins the body: prints a title element, unless title is null, with the title
+ * escaped, and the body tag with the attributes as they are. These begin with a blank and may be
+ * null.
+ */
+TAVIK_API void print_head_p2(const char* title, const char* attributes);
+
+/* Ends the body and the page. */
+TAVIK_API void print_foot(void);
+
+/*
+ * Prints a whole page, without a body, that makes the browser load another one after so many
+ * seconds: the two texts as in print_head_p1(), and the URL as in print_head_refresh(). Without a
+ * URL, also for a null format, the page holds nothing.
+ */
+TAVIK_API void print_refresh(const char* first, const char* second, uint32_t seconds,
+                             const char* format, ...) TAVIK_PRINTF(4, 5);
+
+/*
+ * Prints the head line of a page's body, a table of one row. The left cell shows an item, of which
+ * at most count bytes are read, or stays empty if it cannot be read; the right cell shows the text
+ * with what the page's own JavaScript function fl_time() returns directly behind it. Item and text
+ * are escaped. A script ahead of this line defines the function.
+ */
+TAVIK_API void print_timeline(const char* directory, const char* name, int32_t count,
+                              const char* text);
+
 /* ============================================================================================
  * Item store
  *

@@ -1,12 +1,8 @@
 #include <unistd.h>
 
-#include "items/stack_buffer.h"
+#include "output/html_print_item.h"
 #include "tavik.h"
 
 int32_t gen_text_item(const char* directory, const char* name) {
-  const int32_t page = getpagesize();
-  char* const value = TAVIK_STACK_BUFFER(static_cast<size_t>(page));
-  const int32_t length = read_item(directory, name, value, page - 1);
-  if (length > 0) html_print_text(value);
-  return length;
+  return tavik::html_print_item(directory, name, getpagesize() - 1);
 }

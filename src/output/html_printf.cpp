@@ -16,8 +16,6 @@ struct Conversion {
   bool is_long = false;
 };
 
-// NOLINTBEGIN(clang-analyzer-valist.Uninitialized): it loses track of a list behind a pointer.
-
 Conversion read_conversion(const char* percent, va_list* arguments) {
   Conversion result{percent};
   const char* at = percent + 1;
@@ -77,8 +75,6 @@ uint32_t print_conversion(const Conversion& conversion, va_list* arguments) {
       return static_cast<uint32_t>(print_integer(conversion, arguments));
   }
 }
-
-// NOLINTEND(clang-analyzer-valist.Uninitialized)
 
 uint32_t print_literal(bool raw, const char* text, uint32_t length) {
   return raw ? print_mem(text, length) : html_print_text_limit(UINT32_MAX, text, length);

@@ -1,52 +1,47 @@
 #include <gtest/gtest.h>
 
-#include <bitset>
-#include <sstream>
-
 #include "tavik.h"
 
 namespace {
 
-// Hexadecimal values and ranges, as in "20 30-39".
-std::bitset<0x10000> parse_set(const std::string& text) {
-  std::bitset<0x10000> set;
-  std::istringstream words(text);
-  for (std::string word; words >> word;) {
-    const auto first = std::stoul(word, nullptr, 16);
-    const auto last = std::stoul(word.substr(word.find('-') + 1), nullptr, 16);
-    for (auto value = first; value <= last; ++value) set.set(value);
+// What a filter keeps of all characters, as hexadecimal ranges.
+std::string kept(textbox_filter filter, uint32_t position) {
+  std::string set;
+  for (uint32_t first = 1; first <= 0xFFFF; ++first) {
+    uint32_t end = first;
+    while (end <= 0xFFFF && filter(position, end) == 1) ++end;
+    if (end == first) continue;
+    char range[16];
+    snprintf(range, sizeof range, end == first + 1 ? " %02X" : " %02X-%02X", first, end - 1);
+    set += range;
+    first = end - 1;
   }
   return set;
 }
 
+void expect(textbox_filter filter, const std::string& later, const std::string& first) {
+  EXPECT_EQ(later, kept(filter, 1));
+  EXPECT_EQ(first, kept(filter, 0));
+}
+
+void expect(textbox_filter filter, const std::string& set) {
+  expect(filter, set, set);
+}
+
 TEST(TextboxFilter, KeepsItsSetOfAllCharacters) {
-  const struct {
-    textbox_filter filter;
-    std::string later, first = later;
-  } cases[] = {
-      {textbox_filter_alnum, "30-39 41-5A 61-7A"},
-      {textbox_filter_digit, "30-39"},
-      {textbox_filter_ascii_printable, "21 23-26 28-5F 61-7E"},
-      {textbox_filter_dns, "2D-2E 30-39 41-5A 61-7A"},
-      {textbox_filter_dns6, "2D-2E 30-3A 41-5A 61-7A"},
-      {textbox_filter_cname, "2D-2E 30-39 40-5A 5F 61-7A"},
-      {textbox_filter_asn1, "20 2A 2D-2E 30-39 40-5A 5F 61-7A"},
-      {textbox_filter_ip6prefix, "2F-3A 41-46 61-66"},
-      {textbox_filter_octet, "01-7F", "01-1F 21-7F"},
-      {textbox_filter_ppp_username, "21 23-26 28-5F 61-7F"},
-      {textbox_filter_ppp_password, "21 23-26 28-5F 61-7F", "21 23-26 28-29 2B-3E 40-5F 61-7F"},
-      {textbox_filter_shell_quoted, "01-21 23 25-26 28-5B 5D-5F 61-FFFF"},
-      {textbox_filter_smtp, "01-1F 21 23 25-26 28-29 2B-39 3B-3E 40-5B 5D-5F 61-FFFF"},
-  };
-  for (const auto& c : cases) {
-    for (const uint32_t position : {0U, 1U, UINT32_MAX}) {
-      const auto kept = parse_set(position == 0 ? c.first : c.later);
-      for (uint32_t character = 1; character <= 0xFFFF; ++character) {
-        ASSERT_EQ(kept[character] ? 1 : 0, c.filter(position, character))
-            << std::hex << character << " at " << position << " by the set " << c.later;
-      }
-    }
-  }
+  expect(textbox_filter_alnum, " 30-39 41-5A 61-7A");
+  expect(textbox_filter_digit, " 30-39");
+  expect(textbox_filter_ascii_printable, " 21 23-26 28-5F 61-7E");
+  expect(textbox_filter_dns, " 2D-2E 30-39 41-5A 61-7A");
+  expect(textbox_filter_dns6, " 2D-2E 30-3A 41-5A 61-7A");
+  expect(textbox_filter_cname, " 2D-2E 30-39 40-5A 5F 61-7A");
+  expect(textbox_filter_asn1, " 20 2A 2D-2E 30-39 40-5A 5F 61-7A");
+  expect(textbox_filter_ip6prefix, " 2F-3A 41-46 61-66");
+  expect(textbox_filter_octet, " 01-7F", " 01-1F 21-7F");
+  expect(textbox_filter_ppp_username, " 21 23-26 28-5F 61-7F");
+  expect(textbox_filter_ppp_password, " 21 23-26 28-5F 61-7F", " 21 23-26 28-29 2B-3E 40-5F 61-7F");
+  expect(textbox_filter_shell_quoted, " 01-21 23 25-26 28-5B 5D-5F 61-FFFF");
+  expect(textbox_filter_smtp, " 01-1F 21 23 25-26 28-29 2B-39 3B-3E 40-5B 5D-5F 61-FFFF");
 }
 
 }  // namespace

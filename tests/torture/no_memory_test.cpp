@@ -38,6 +38,16 @@ TEST(NoMemory, XmlDropsWhatDoesNotFitAndGoesOn) {
   free(doc.buffer);
 }
 
+TEST(NoMemory, ARefreshWithoutUrlAsksForNothing) {
+  EXPECT_EQ(test::printed([] {
+              putchar('\n');  // stdout takes its buffer
+              const test::ExhaustedHeap heap;
+              print_head_refresh(1, "/%d", 7);
+              print_refresh(nullptr, nullptr, 1, "/%d", 7);
+            }),
+            "\n<meta http-equiv=\"refresh\">\r\n<html>\r\n<head>\r\n</head>\r\n</html>\r\n");
+}
+
 TEST(NoMemory, ASelectAsksForAttributesThatCannotBeMade) {
   const selectbox_callback ask = [](uint32_t operation, uint32_t, uintptr_t) {
     return operation == SELECT_OP_ATTRS ? printf(" asked") : -1;
