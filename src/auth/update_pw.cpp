@@ -46,6 +46,8 @@ int32_t rd_passwd(const char* directory, const char* name, passwd_state* state,
   state->name = name;
   state->status = PW_STATUS_NONE;
   state->length = read_item(directory, name, state->stored, tavik::kMd5HashLength);
+  // A read that fails half-way leaves bytes behind.
+  if (state->length < 0) state->stored[0] = '\0';
   state->scheme = crypt_detect(state->stored, state->length);
   return state->scheme;
 }
