@@ -1711,7 +1711,158 @@ TAVIK_API int32_t update_password_item(const char* directory, const char* name, 
 
 /* ---- Certificate directories --------------------------------------------------------------- */
 
+/*
+ * A page lists a directory of certificate files, shows them through callbacks of its own, and
+ * deletes them together with their linked files: files in other directories, named like the
+ * certificate with another extension. An external tool describes a file; what it prints becomes a
+ * tooltip, an attribute " title=\"...\"" with the text escaped.
+ */
+
+struct dirent; /* of dirent.h */
+
+/* The words of a tool's command line, which asprint_tooltip() puts together. */
+typedef struct cert_tool cert_tool;
+struct cert_tool {
+  const char* wrapper; /* a command that gets the file with -i and runs the tool; or null */
+  const char* command;
+  const char* options; /* the last words of the line */
+};
+
+/* Linked files of one kind. A row with a null directory ends a table. */
+typedef struct cert_link cert_link;
+struct cert_link {
+  const char* directory;
+  const char* suffix;  /* replaces the certificate's extension; not null for deleting */
+  const char* wrapper; /* this and the two below: as in cert_tool, for these files */
+  const char* command;
+  const char* options;
+  uintptr_t context; /* the first argument of the link callback */
+  uint32_t mask;     /* the row is shown if it shares a bit with the entry callback's result */
+};
+
+/* A listed directory. The texts and tables it points to are the caller's and outlive it. */
+typedef struct cert_dir cert_dir;
+struct cert_dir {
+  const char* directory;
+  const cert_tool* tool;  /* or null, which shows nothing */
+  const cert_link* links; /* or null */
+  struct dirent** list;   /* by name; null if the directory could not be listed */
+  int32_t count;          /* -1 if the directory could not be listed */
+};
+
+/*
+ * Shows one file. position counts from 0 in the whole listing; tooltip is null if there is none.
+ * Its result is a mask of the links that are to be shown, 0 for none.
+ */
+typedef uint32_t (*cert_entry_callback)(uintptr_t context, const char* name, int32_t position,
+                                        const char* tooltip);
+
+/*
+ * Shows a linked file, which need not exist: context and mask are those of the table's row, number
+ * is the one that the certificate file begins with, 0 without a digit; tooltip is null if there is
+ * none. Its result is ignored.
+ */
+typedef int32_t (*cert_link_callback)(uintptr_t context, uint32_t number, uint32_t mask,
+                                      const char* tooltip);
+
+/*
+ * Lists a directory, in the order of its names, without those that begin with "."; subdirectories
+ * are listed. Fills the whole record, which cert_dir_free() releases. tool and links may be null.
+ *
+ * Result: the number of entries; -1 if the directory cannot be listed.
+ */
+TAVIK_API int32_t cert_dir_setup(cert_dir* certificates, const char* directory,
+                                 const cert_tool* tool, const cert_link* links);
+
+/*
+ * Releases a listing. The list is then null and the count 0, but the count of a directory that
+ * could not be listed stays -1; a second call does nothing.
+ */
+TAVIK_API void cert_dir_free(cert_dir* certificates);
+
+/*
+ * Calls entry for each listed file but directories, each with its tooltip, and link for the file's
+ * rows of the links table, in the table's order, that share a bit with what entry answered. A file
+ * that is empty or cannot be read has no links. Without a tool or entry callback nothing is shown;
+ * the link callback may be null. Directories are joined with names by exactly one "/".
+ */
+TAVIK_API void show_certificates(const cert_dir* certificates, uintptr_t context,
+                                 cert_entry_callback entry, cert_link_callback link);
+
+/*
+ * Deletes the file at a position of the listing with all its linked files, and lists the directory
+ * anew, so that positions change. Directories and names are simply put together, so that the
+ * directories end in "/". A position outside the listing does nothing. If the file cannot be
+ * deleted everything stays as it was; a linked file that cannot is passed over.
+ */
+TAVIK_API void delete_certificate(cert_dir* certificates, int32_t position);
+
+/*
+ * Runs a tool on a file and makes the title attribute of what it prints, as asprint_title_shell()
+ * does; the caller frees it. The command line, for the shell, is
+ *
+ *     command -in "path" -noout options
+ *     wrapper -i "path" -- command -noout options      (unless wrapper is null)
+ *
+ * The path stands between its quotes as it is: a file whose name can hold a double quote, "$", a
+ * backquote or a backslash must not come here.
+ *
+ * Result: the attribute's length in bytes; -1, with out untouched, if the tool printed nothing, it
+ * cannot be run, there is no memory, or an argument other than wrapper is null.
+ */
+TAVIK_API int32_t asprint_tooltip(char** out, const char* path, const char* wrapper,
+                                  const char* command, const char* options);
+
 /* ---- Certificate select -------------------------------------------------------------------- */
+
+/*
+ * A select box that names one file of a certificate directory. A value is the file's name in
+ * Base64, so that any name travels safely; the none option has the empty value. An item holds the
+ * name itself, empty for none.
+ */
+
+/*
+ * Prints a select box with the files of a directory, in the order of their names and without those
+ * that begin with "."; subdirectories are offered too. The none option comes last: selected if no
+ * file is, and otherwise only with PF_KEEP_NONE_OPTION. A directory that cannot be listed gives a
+ * disabled box with the none option alone.
+ *
+ * name may be null, and so may attributes, the page's own, each with a leading blank. Both go out
+ * as they are, file names and the label escaped. No line end follows the box.
+ */
+TAVIK_API void gen_selectbox_certs(const char* directory, const char* name, const char* selected,
+                                   const char* none_label, uint32_t flags, const char* attributes)
+    TAVIK_NONNULL(3);
+
+/*
+ * Turns a submitted value into the file name, of at most limit bytes; buffer holds one byte more.
+ * If it cannot be decoded or is too long, the buffer is not terminated. The name is not checked: it
+ * can hold any byte, "/" and NUL among them.
+ *
+ * Result: the name's length in bytes; 0 for the none option, and if it could not be decoded.
+ */
+TAVIK_API int32_t save_selectbox_cert(char* buffer, int32_t limit, const char* text);
+
+/*
+ * Prints a select box of the directory certificates, as gen_selectbox_certs() does, for the file
+ * that an item names in its first size bytes. An item that cannot be read makes it disabled, with
+ * the none option selected.
+ *
+ * Result: the flag word used: PF_KEEP_NONE_OPTION, with PF_DISABLED if the item cannot be read.
+ */
+TAVIK_API uint32_t gen_selectbox_certs_item(const char* directory, const char* item,
+                                            const char* name, const char* certificates,
+                                            const char* none_label, int32_t size,
+                                            const char* attributes);
+
+/*
+ * Stores the file name of a submitted value, as update_item() does with this size. A name of one
+ * byte more is cut; a longer one, and a value that cannot be decoded, store the empty value.
+ *
+ * Result: as update_item(); -1 with nothing stored for a null text.
+ */
+TAVIK_API int32_t update_cert_item(const char* directory, const char* name, const char* text,
+                                   int32_t size);
 
 /* ============================================================================================
  * Network state

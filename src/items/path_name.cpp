@@ -3,6 +3,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "items/join_directory.h"
 #include "items/stack_buffer.h"
 #include "tavik.h"
 
@@ -29,14 +30,7 @@ int32_t _func_path_name(int32_t (*func)(const char* path, int32_t first, uint32_
   const size_t directory_length = strlen(directory);
   const size_t name_size = strlen(name) + 1;
   char* const path = TAVIK_STACK_BUFFER(directory_length + 1 + name_size);
-  memcpy(path, directory, directory_length);
-  size_t seam = directory_length;
-  if (directory_length > 0) {
-    const bool ends_in_slash = directory[directory_length - 1] == '/';
-    const bool begins_with_slash = name[0] == '/';
-    if (ends_in_slash && begins_with_slash) --seam;
-    if (!ends_in_slash && !begins_with_slash) path[seam++] = '/';
-  }
+  const size_t seam = tavik::join_directory(path, directory, directory_length, name);
   memcpy(path + seam, name, name_size);
   return func(path, first, second);
 }
