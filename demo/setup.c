@@ -15,6 +15,11 @@ static const struct {
     {"owner", "Network team"},
     {"place", "Rack 4, below the patch panel"},
     {"remark", ""},
+    {"hostname", "edge-4"},
+    {"location", "Rack 4, below the patch panel"},
+    {"contact", "Network team"},
+    {"timeserver", "time.example.net"},
+    {"passphrase", "change-me"},
 };
 
 static int fail(const char* what) {

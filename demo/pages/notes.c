@@ -1,71 +1,73 @@
 /*
- * "Notes on this device": shows a few items and takes new values for them, by GET and by POST.
+ * "Notes on this device": shows a few items and takes new values for them, by GET and by POST. It
+ * writes its controls by hand, to show what the field functions do for the other pages.
  */
-#include <stdlib.h>
 #include <string.h>
 
-#include "tavik.h"
+#include "shared/page.h"
 
 enum { NOTE_COUNT = 3, NOTE_CHARACTERS = 100, NOTE_SIZE = 3 * NOTE_CHARACTERS };
 
-static const struct {
-  const char* name;
-  const char* label;
-} notes[NOTE_COUNT] = {{"owner", "Owner"}, {"place", "Place"}, {"remark", "Remark"}};
-
-/* What became of each note; empty for one that was not submitted. */
-struct outcome {
-  const char* directory;
-  const char* words[NOTE_COUNT];
+static const setting notes[NOTE_COUNT] = {
+    {"owner", "Owner", NOTE_CHARACTERS, 0, NULL},
+    {"place", "Place", NOTE_CHARACTERS, 0, NULL},
+    {"remark", "Remark", NOTE_CHARACTERS, 0, NULL},
 };
 
-static const char* store(const char* directory, const char* name, char* value) {
+/* An item holds one line: the value ends at its first control character, or where it is full. */
+static int32_t store(const char* name, char* value) {
   uint32_t bytes = 0;
   utf8_length(value, NOTE_CHARACTERS, &bytes);
   value[bytes] = '\0';
   value[strcspn(value, "\r\n\t")] = '\0';
-  int32_t result = update_item(directory, name, value, NOTE_SIZE);
-  if (result < 0) return "could not be stored";
-  return result > 0 ? "changed" : "unchanged";
+  return update_item(page_state(), name, value, NOTE_SIZE);
 }
 
-static int32_t take_values(void* context, cgi_attr* attrs, int32_t count, int32_t kind) {
-  struct outcome* outcome = context;
+static int32_t save(void* context, cgi_attr* attrs, int32_t count, int32_t kind) {
+  outcome* result = context;
   (void)kind;
   for (int32_t i = 0; i < count; i++) {
-    for (int n = 0; n < NOTE_COUNT; n++) {
+    for (uint32_t n = 0; n < NOTE_COUNT; n++) {
       if (strcmp(attrs[i].name, notes[n].name) != 0) continue;
-      outcome->words[n] = store(outcome->directory, notes[n].name, attrs[i].value);
+      page_note(result, n, store(notes[n].name, attrs[i].value));
+      result->told = 1;
     }
   }
   return 0;
 }
 
-static void print_note(const struct outcome* outcome, int n) {
-  char value[NOTE_SIZE + 1];
-  read_item(outcome->directory, notes[n].name, value, NOTE_SIZE);
-  printf("<p><label>%s <input name=\"%s\" value=\"", notes[n].label, notes[n].name);
-  html_print_text(value);
-  print_str("\"></label>");
-  if (outcome->words[n] != NULL) printf(" <em>%s</em>", outcome->words[n]);
-  print_str("</p>\r\n");
+static int32_t read_query(void* context, cgi_attr* attrs, int32_t count, int32_t kind) {
+  page_read_outcome(context, attrs, count, kind);
+  return page_trusts_query() ? save(context, attrs, count, kind) : 0;
 }
 
-static void print_form(const struct outcome* outcome, const char* method) {
-  printf("<form method=\"%s\">\r\n", method);
-  for (int n = 0; n < NOTE_COUNT; n++) print_note(outcome, n);
-  printf("<p><button>Save by %s</button></p>\r\n</form>\r\n", method);
+static void print_form(const char* method) {
+  printf("<form method=\"%s\" action=\"notes\">\r\n", method);
+  for (int n = 0; n < NOTE_COUNT; n++) {
+    char value[NOTE_SIZE + 1];
+    read_item(page_state(), notes[n].name, value, NOTE_SIZE);
+    printf("<p class=\"field\"><label for=\"%s-%s\">%s</label>\r\n", method, notes[n].name,
+           notes[n].label);
+    printf("<input type=\"text\" id=\"%s-%s\" name=\"%s\" value=\"", method, notes[n].name,
+           notes[n].name);
+    html_print_text(value);
+    print_str("\"></p>\r\n");
+  }
+  printf("<p class=\"actions\"><button>Save by %s</button></p>\r\n</form>\r\n", method);
 }
 
 int main(void) {
-  struct outcome outcome = {getenv("TAVIK_DEMO_STATE"), {NULL}};
-  getcgivars(&outcome, take_values, NULL);
-  print_str(
-      "Content-Type: text/html; charset=utf-8\r\n\r\n<!DOCTYPE html>\r\n"
-      "<html lang=\"en\">\r\n<head>\r\n<title>Notes on this device</title>\r\n</head>\r\n<body>\r\n"
-      "<h1>Notes on this device</h1>\r\n");
-  print_form(&outcome, "post");
-  print_form(&outcome, "get");
-  print_str("</body>\r\n</html>\r\n");
+  outcome result = {0, 0, 0};
+  page_guard();
+  getcgivars(&result, save, page_is_post() ? NULL : read_query);
+  if (page_is_post()) {
+    page_redirect("notes", &result);
+    return 0;
+  }
+  page_begin("notes", "Notes on this device");
+  page_print_outcome(&result, notes, NOTE_COUNT);
+  print_form("post");
+  print_form("get");
+  page_end();
   return 0;
 }

@@ -1,0 +1,88 @@
+/*
+ * "System": the device's name and whereabouts, its time server, and a passphrase that is shown as
+ * bullets. ?format=json gives the settings that other programs ask for.
+ */
+#include <string.h>
+
+#include "shared/page.h"
+
+static int32_t printable(uint32_t position, uint32_t character) {
+  (void)position;
+  return character >= 0x20 && character != 0x7F;
+}
+
+enum { HOST_NAME, LOCATION, CONTACT, TIME_SERVER, PASSPHRASE, SETTING_COUNT };
+
+static const setting settings[SETTING_COUNT] = {
+    [HOST_NAME] = {"hostname", "Host name", 63, 0, textbox_filter_dns},
+    [LOCATION] = {"location", "Location", 80, 0, printable},
+    [CONTACT] = {"contact", "Contact", 80, 0, printable},
+    [TIME_SERVER] = {"timeserver", "Time server", 63, 0, textbox_filter_dns6},
+    [PASSPHRASE] = {"passphrase", "Passphrase", 32, PF_PASSWORD | PF_AUTOCOMPLETE_OFF,
+                    textbox_filter_ascii_printable},
+};
+
+static int32_t store(const setting* field, const char* text) {
+  if ((field->flags & PF_PASSWORD) == 0) {
+    return update_textbox_item(page_state(), field->name, text, (uint32_t)field->maximum,
+                               field->filter);
+  }
+  uint32_t rejected = 0;
+  int32_t stored = update_password_item(page_state(), field->name, text, (uint32_t)field->maximum,
+                                        field->filter, &rejected);
+  return stored == 0 && rejected > 0 ? -1 : stored;
+}
+
+static int32_t save(void* context, cgi_attr* attrs, int32_t count, int32_t kind) {
+  (void)kind;
+  for (int32_t i = 0; i < count; i++) {
+    for (uint32_t s = 0; s < SETTING_COUNT; s++) {
+      if (strcmp(attrs[i].name, settings[s].name) != 0) continue;
+      page_note(context, s, store(&settings[s], attrs[i].value));
+    }
+  }
+  return 0;
+}
+
+static int32_t as_json;
+
+static int32_t read_query(void* context, cgi_attr* attrs, int32_t count, int32_t kind) {
+  for (int32_t i = 0; i < count; i++) {
+    as_json |= strcmp(attrs[i].name, "format") == 0 && strcmp(attrs[i].value, "json") == 0;
+  }
+  return page_read_outcome(context, attrs, count, kind);
+}
+
+static void print_json(void) {
+  uint32_t flags = 0;
+  print_str("Content-Type: application/json\r\nCache-Control: no-store\r\n\r\n{");
+  const int shown[] = {HOST_NAME, TIME_SERVER};
+  for (size_t i = 0; i < sizeof shown / sizeof *shown; i++) {
+    const setting* field = &settings[shown[i]];
+    flags = gen_json_text_item(page_state(), field->name, field->maximum, field->name, flags);
+  }
+  print_str("}\r\n");
+}
+
+static void print_page(const outcome* result) {
+  page_begin("system", "System");
+  page_print_outcome(result, settings, SETTING_COUNT);
+  page_form("system");
+  for (int s = 0; s < SETTING_COUNT; s++) page_text_field(&settings[s]);
+  page_form_end();
+  page_end();
+}
+
+int main(void) {
+  outcome result = {0, 0, 0};
+  page_guard();
+  getcgivars(&result, save, page_is_post() ? NULL : read_query);
+  if (page_is_post()) {
+    page_redirect("system", &result);
+  } else if (as_json) {
+    print_json();
+  } else {
+    print_page(&result);
+  }
+  return 0;
+}

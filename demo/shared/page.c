@@ -1,0 +1,146 @@
+#include "shared/page.h"
+
+#include <stdlib.h>
+#include <string.h>
+
+static const struct {
+  const char* page;
+  const char* title;
+} navigation[] = {
+    {"system", "System"},
+    {"notes", "Notes"},
+};
+
+const char* page_state(void) {
+  const char* state = getenv("TAVIK_DEMO_STATE");
+  return state != NULL ? state : "/var/lib/tavik-demo";
+}
+
+int32_t page_is_post(void) {
+  const char* method = getenv("REQUEST_METHOD");
+  return method != NULL && strcmp(method, "POST") == 0;
+}
+
+/* Whether a URL, or an origin, names this host. */
+static int32_t names_this_host(const char* url) {
+  const char* host = getenv("HTTP_HOST");
+  const char* authority = strstr(url, "://");
+  if (host == NULL || authority == NULL) return 0;
+  authority += 3;
+  size_t length = strlen(host);
+  return strncmp(authority, host, length) == 0 &&
+         (authority[length] == '\0' || authority[length] == '/');
+}
+
+/* Browsers tell the origin of every form they post; what sends none is no browser. */
+static int32_t from_this_site(void) {
+  const char* origin = getenv("HTTP_ORIGIN");
+  return origin == NULL || names_this_host(origin);
+}
+
+int32_t page_trusts_query(void) {
+  const char* referer = getenv("HTTP_REFERER");
+  return referer != NULL && names_this_host(referer);
+}
+
+void page_guard(void) {
+  if (!page_is_post() || from_this_site()) return;
+  print_str(
+      "Status: 403 Forbidden\r\nContent-Type: text/plain\r\n\r\n"
+      "This form was sent by another site. Nothing was stored.\r\n");
+  exit(0);
+}
+
+void page_note(outcome* result, uint32_t index, int32_t stored) {
+  if (stored > 0) result->changed |= 1U << index;
+  if (stored < 0) result->failed |= 1U << index;
+}
+
+void page_redirect(const char* page, const outcome* result) {
+  printf("Status: 303 See Other\r\nLocation: %s?changed=%u&failed=%u\r\n\r\n", page,
+         (unsigned)result->changed, (unsigned)result->failed);
+}
+
+int32_t page_read_outcome(void* context, cgi_attr* attrs, int32_t count, int32_t kind) {
+  outcome* result = context;
+  (void)kind;
+  for (int32_t i = 0; i < count; i++) {
+    uint32_t* bits = strcmp(attrs[i].name, "changed") == 0  ? &result->changed
+                     : strcmp(attrs[i].name, "failed") == 0 ? &result->failed
+                                                            : NULL;
+    if (bits == NULL) continue;
+    *bits = str_to_uint(attrs[i].value);
+    result->told = 1;
+  }
+  return 0;
+}
+
+static void print_navigation(const char* page) {
+  print_str("<nav aria-label=\"Pages\">\r\n");
+  for (size_t i = 0; i < sizeof navigation / sizeof *navigation; i++) {
+    const char* current = strcmp(navigation[i].page, page) == 0 ? " aria-current=\"page\"" : "";
+    printf("<a href=\"%s\"%s>%s</a>\r\n", navigation[i].page, current, navigation[i].title);
+  }
+  print_str("</nav>\r\n");
+}
+
+void page_begin(const char* page, const char* title) {
+  /* The frame's own html tag comes third; a browser merges this one's language into it. */
+  print_head_p1(
+      "Content-Type: text/html; charset=utf-8\r\n"
+      "Cache-Control: no-store\r\n"
+      "X-Content-Type-Options: nosniff\r\n\r\n"
+      "<!DOCTYPE html>\r\n",
+      "<html lang=\"en\">\r\n",
+      "<meta charset=\"utf-8\">\r\n"
+      "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\r\n");
+  print_head_css("../../assets/style.css", NULL);
+  print_head_p2(title, NULL);
+  print_str("<header><p class=\"device\">Demo device</p></header>\r\n");
+  print_navigation(page);
+  print_str("<main>\r\n<h1>");
+  html_print_text(title);
+  print_str("</h1>\r\n");
+}
+
+static void print_labels(const char* lead, uint32_t bits, const setting* settings, uint32_t count) {
+  const char* separator = lead;
+  for (uint32_t i = 0; i < count; i++) {
+    if ((bits >> i & 1) == 0) continue;
+    print_str(separator);
+    html_print_text(settings[i].label);
+    separator = ", ";
+  }
+  if (separator != lead) print_str(". ");
+}
+
+void page_print_outcome(const outcome* result, const setting* settings, uint32_t count) {
+  if (!result->told) return;
+  printf("<p class=\"%s\" role=\"status\">", result->failed != 0 ? "note failed" : "note");
+  print_labels("Saved: ", result->changed, settings, count);
+  print_labels("Could not be saved: ", result->failed, settings, count);
+  if (result->changed == 0 && result->failed == 0) {
+    print_str("Nothing has changed: all settings are as they were.");
+  }
+  print_str("</p>\r\n");
+}
+
+void page_form(const char* page) {
+  printf("<form method=\"post\" action=\"%s\">\r\n", page);
+}
+
+void page_form_end(void) {
+  print_str("<p class=\"actions\"><button type=\"submit\">Save</button></p>\r\n</form>\r\n");
+}
+
+void page_text_field(const setting* field) {
+  printf("<p class=\"field\"><label for=\"%s\">%s</label>\r\n", field->name, field->label);
+  gen_xtextbox_item(page_state(), field->name, field->maximum, field->flags,
+                    " id=\"%s\" name=\"%s\"", field->name, field->name);
+  print_str("</p>\r\n");
+}
+
+void page_end(void) {
+  print_str("</main>\r\n");
+  print_foot();
+}

@@ -1,0 +1,69 @@
+/*
+ * What all pages of the demo device share: where its state lies, the frame around a page's content,
+ * the guard against forms of other sites, and the way a save is told.
+ *
+ * A page with a form runs like this: page_guard(), getcgivars(), and then, on a POST,
+ * page_redirect(), so that a reload does not send the form again, or else page_begin(), its content
+ * and page_end().
+ */
+#ifndef DEMO_PAGE_H
+#define DEMO_PAGE_H
+
+#include "tavik.h"
+
+/* One setting of a form. What of it is zero takes no part. */
+typedef struct setting setting;
+struct setting {
+  const char* name;  /* of the item and of the control */
+  const char* label; /* as a person reads it */
+  int32_t maximum;   /* in characters */
+  uint32_t flags;    /* print flags */
+  textbox_filter filter;
+};
+
+/* What became of a form: a bit for each setting of its table, the first is bit 0. */
+typedef struct outcome outcome;
+struct outcome {
+  uint32_t changed;
+  uint32_t failed;
+  int32_t told; /* whether a redirect brought this outcome */
+};
+
+/* The folder of the device's items. */
+const char* page_state(void);
+
+/* Ends the page with status 403 if it is a POST that a form of another site has sent. */
+void page_guard(void);
+
+int32_t page_is_post(void);
+
+/*
+ * Whether the query of a GET was sent by a page of this device, so that it may store something.
+ * Browsers tell no origin here, but the referring page, unless another site hides it.
+ */
+int32_t page_trusts_query(void);
+
+/* Notes the result of an update function for the setting with this index. */
+void page_note(outcome* result, uint32_t index, int32_t stored);
+
+/* Answers a POST: the browser gets the page again, which tells the outcome. */
+void page_redirect(const char* page, const outcome* result);
+
+/* A handler for the query that page_redirect() made; the context is an outcome. */
+int32_t page_read_outcome(void* context, cgi_attr* attrs, int32_t count, int32_t kind);
+
+/* Prints all that stands ahead of a page's content. */
+void page_begin(const char* page, const char* title);
+
+/* Tells in words what a save did, if there was one. */
+void page_print_outcome(const outcome* result, const setting* settings, uint32_t count);
+
+void page_form(const char* page);
+void page_form_end(void);
+
+/* A text field with its label, for a setting with an item. */
+void page_text_field(const setting* field);
+
+void page_end(void);
+
+#endif
