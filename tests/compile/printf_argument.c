@@ -5,6 +5,7 @@
  */
 #include "tavik.h"
 
+int32_t callback(uint32_t operation, uint32_t index, uintptr_t arg);
 void page(void);
 
 void page(void) {
