@@ -119,15 +119,14 @@ typedef int32_t (*cgi_handler)(void* context, cgi_attr* attrs, int32_t count, in
  * 0 and leaves the body has it read as header lines. Parts without header lines are skipped,
  * without a handler all are.
  *
- * Either handler may be null. Result: the handler's result; 0 if the text was empty or could not be
- * copied; the number of pairs if there is no handler or no memory for the records, but 0 for a
- * multipart body without a handler. For a POST it is that of the body, or query_handler's if
- * negative.
+ * Either handler may be null. What cannot be served prints a plain-text page with one line of
+ * message and ends the process with exit(1): REQUEST_METHOD unset or none of the three; on a POST a
+ * CONTENT_TYPE that is none of the two above, a CONTENT_LENGTH of 0, no memory for the body (every
+ * negative length, if it is URL-encoded) or for a header line, or a read error.
  *
- * What cannot be served prints a plain-text page with one line of message and ends the process
- * with exit(1): REQUEST_METHOD unset or none of the three; on a POST a CONTENT_TYPE that is none of
- * the two above, a CONTENT_LENGTH of 0, no memory for the body (every negative length, if it is
- * URL-encoded) or for a header line, or a read error.
+ * Result: the handler's result; 0 if the text was empty or could not be copied; the number of pairs
+ * if there is no handler or no memory for the records, but 0 for a multipart body without a
+ * handler. For a POST it is that of the body, or query_handler's if negative.
  */
 TAVIK_API int32_t getcgivars(void* context, cgi_handler body_handler, cgi_handler query_handler);
 
