@@ -6,21 +6,8 @@
 #include <string.h>
 #include <sys/stat.h>
 
+#include "shared/first_values.h"
 #include "tavik.h"
-
-static const struct {
-  const char* name;
-  const char* value;
-} items[] = {
-    {"owner", "Network team"},
-    {"place", "Rack 4, below the patch panel"},
-    {"remark", ""},
-    {"hostname", "edge-4"},
-    {"location", "Rack 4, below the patch panel"},
-    {"contact", "Network team"},
-    {"timeserver", "time.example.net"},
-    {"passphrase", "change-me"},
-};
 
 static int fail(const char* what) {
   fprintf(stderr, "setup: %s: %s\n", what, strerror(errno));
@@ -35,11 +22,10 @@ int main(int argc, char** argv) {
   const char* folder = argv[1];
   if (mkdir(folder, 0700) != 0 && errno != EEXIST) return fail(folder);
   if (chmod(folder, 0700) != 0) return fail(folder);
-  for (size_t i = 0; i < sizeof items / sizeof *items; i++) {
-    const char* value = items[i].value;
-    if (stat_item(folder, items[i].name) == 0) continue;
-    if (create_item(folder, items[i].name, value, (int32_t)strlen(value)) < 0) {
-      return fail(items[i].name);
+  for (const item_value* item = first_values; item->name != NULL; item++) {
+    if (stat_item(folder, item->name) == 0) continue;
+    if (create_item(folder, item->name, item->value, (int32_t)strlen(item->value)) < 0) {
+      return fail(item->name);
     }
   }
   return 0;

@@ -8,6 +8,7 @@ static const struct {
   const char* title;
 } navigation[] = {
     {"system", "System"},
+    {"network", "Network"},
     {"notes", "Notes"},
 };
 
