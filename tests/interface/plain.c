@@ -125,6 +125,49 @@ static void items(const char* directory) {
   remove_item(directory, "joined");
 }
 
+static void plain_controls(const char* directory) {
+  char* text = NULL;
+  char unix_text[4];
+  gen_textarea("text", PF_READONLY, " name=\"%s\"", "area");
+  textarea_to_unix(unix_text, "a\r\n");
+  CHECK(create_item(directory, "text", "", 0) == 1);
+  CHECK(update_textarea_file(directory, "text", unix_text, 5) == 3);
+  CHECK(get_textarea_file(&text, directory, "text", 5) == 16 && strcmp(text, "a\n") == 0);
+  free(text);
+  CHECK(remove_item(directory, "text") == 0);
+  CHECK(gen_radio("m", 1, 1, NULL, 0) == '>');
+  CHECK(gen_radio_string("m", "a", "b", " id=\"m\"", 0) == '>');
+  gen_xbutton("OK", plus_one, PF_SUBMIT, NULL);
+  gen_image("/img/", "a.png", "a", " width=\"%d\"", 16);
+  CHECK(gen_upload(0, " name=\"%s\"", "file") == '>');
+}
+
+static void addresses(const char* directory) {
+  uint32_t ip = 0;
+  ipv4_cidr net = {0, 0};
+  struct sockaddr mac = {0};
+  char text[18];
+  CHECK(create_item(directory, "ip", "", 0) == 1);
+  CHECK(scan_ipv4("10.0.0.1", &ip, 0) == 1);
+  CHECK(update_ipv4box_item(directory, "ip", &ip) == 9);
+  CHECK(valid_ipv4_addr(&ip, ip, ip) == 1);
+  CHECK(scan_ipv4_netmask("255.0.0.0", &ip, 9, 32) == 1);
+  CHECK(gen_prefix(gen_netmask(9)) == 9);
+  CHECK(rd_ipv4box_item(directory, "ip", &ip, 0) == 0 && ip != 0);
+  gen_ipv4box("ip", 0, &ip, 0);
+  gen_xipv4box(-1, &ip, 0, NULL);
+  CHECK(scan_ipv4cidr("10.0.0.1/8", &net, 0, 1) == 1);
+  CHECK(update_ipv4cidr_item(directory, "ip", &net) == 11);
+  CHECK(rd_ipv4cidr_item(directory, "ip", &net, 0) == 0 && net.prefix == 8);
+  gen_ipv4cidr("net", 0, &net, 0);
+  gen_xipv4cidr(-1, &net, 0, " name=\"%s\"", "net");
+  CHECK(remove_item(directory, "ip") == 0);
+  CHECK(scan_macaddr(&mac, "0:1:2") == 1 && mac_isvalid(&mac) == 1);
+  CHECK(strcmp(mac_ntop(&mac, ':', text, sizeof text), "00:01:02:00:00:00") == 0);
+  CHECK(*if_hwaddr_ntop("", ':', text, sizeof text) == '\0');
+  gen_xmacbox(0, &mac, PF_DISABLED, NULL);
+}
+
 static int32_t first_byte;
 
 static int32_t note_line(uintptr_t context, char* text) {
@@ -206,6 +249,8 @@ int main(void) {
   uploads();
   output();
   items(directory);
+  plain_controls(directory);
+  addresses(directory);
   commands(directory);
   tables();
   documents();
