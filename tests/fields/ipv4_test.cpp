@@ -172,7 +172,7 @@ TEST(Ipv4, AnUnreadableOrInvalidItemGivesTheFallback) {
       {"100.100.100.1000/32", 0, {}, "9.8.7.6/3", "100.100.100.100"},
       {"100.100.100.100/321", 0, {}, "100.100.100.100/32", "100.100.100.100"},
       // The bytes ahead of the error would be an address.
-      {"100.100.100.100/3", 1, {{0, 3}, {EIO}}, "9.8.7.6/32", "9.8.7.6"},
+      {"10.0.0.1 /24", 1, {{0, 9}, {EIO}}, "9.8.7.6/32", "9.8.7.6"},
   };
   for (const auto& c : cases) {
     if (c.stored != nullptr) dir.put("ip", c.stored);

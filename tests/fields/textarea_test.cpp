@@ -57,7 +57,7 @@ TEST(TextareaFile, HandsOutAnEmptyTextWithoutAFile) {
   dir.put("text", "abc");
   EXPECT_EQ(load(dir, "missing", 5), "0:");
   EXPECT_EQ(load(dir, "text", INT32_MAX / 3 + 1), "-1") << "the size would pass 31 bits";
-  EXPECT_EQ(load(dir, "text", UINT32_MAX), "-1");
+  EXPECT_EQ(load(dir, "text", 0x55555556), "-1");
   EXPECT_EQ(load(dir, nullptr, 5), "-1");
   EXPECT_EQ(get_textarea_file(nullptr, dir.c_str(), "text", 5), -1);
   const test::ScriptedIo io(test::next_descriptor(), {{0, 2}, {EIO}});
@@ -97,7 +97,7 @@ TEST(TextareaFile, TellsAFailureToStore) {
   EXPECT_EQ(dir.get("text"), std::nullopt);
   dir.put("text", "old");
   EXPECT_EQ(update_textarea_file(dir.c_str(), "text", nullptr, 5), -1);
-  EXPECT_EQ(update_textarea_file(dir.c_str(), "text", "a", UINT32_MAX), -2);
+  EXPECT_EQ(update_textarea_file(dir.c_str(), "text", "a", 0x55555556), -2);
   EXPECT_EQ(dir.get("text"), "old");
   {
     const test::ScriptedIo io(test::next_descriptor(), {{0, 3}, {}, {0, 1}, {ENOSPC}});
