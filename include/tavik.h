@@ -543,9 +543,9 @@ TAVIK_API int32_t remove_item(const char* directory, const char* name);
 TAVIK_API int32_t stat_item(const char* directory, const char* name);
 
 /*
- * Reads the value of an item from an open descriptor: at most count bytes, cut at the first control
- * character and terminated. buffer holds count + 1 bytes; bytes behind the terminator are
- * unspecified. A cut can fall inside a UTF-8 sequence.
+ * Reads the value of an item from an open descriptor: at most count bytes, with a terminator behind
+ * them and one over the first control character. buffer holds count + 1 bytes. A cut can fall
+ * inside a UTF-8 sequence.
  *
  * Result: the value's length in bytes, 0 for the empty value; fd itself if it is negative, with
  * buffer untouched; -1 on a read error, with buffer not terminated.

@@ -14,8 +14,9 @@ int32_t read_item_fd(int32_t fd, char* buffer, int32_t count) {
   if (buffer == nullptr) return -1;
   const int32_t got = full_read_fd(fd, buffer, count);
   if (got < 0) return got;
+  buffer[got] = '\0';
   int32_t length = 0;
-  while (length < got && !tavik::is_control(buffer[length])) ++length;
+  while (!tavik::is_control(buffer[length])) ++length;
   buffer[length] = '\0';
   return length;
 }

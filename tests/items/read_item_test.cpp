@@ -46,7 +46,9 @@ TEST(ReadItem, TakesTheFirstBytesUpToAControlCharacter) {
     memset(buffer, '#', sizeof buffer);
     EXPECT_EQ(read_item(dir.c_str(), "item", buffer, c.count), c.result) << c.file;
     EXPECT_EQ(std::string(buffer), c.value);
-    EXPECT_EQ(buffer[std::max(c.count, 0) + 1], '#') << "only count + 1 bytes are the function's";
+    const auto count = static_cast<size_t>(std::max(c.count, 0));
+    EXPECT_EQ(buffer[std::min(count, c.file.size())], '\0') << "behind all that was read";
+    EXPECT_EQ(buffer[count + 1], '#') << "only count + 1 bytes are the function's";
   }
 }
 
@@ -102,6 +104,11 @@ TEST(ReadItem, AllocReadsFilesWhoseSizeReadsAsZero) {
   EXPECT_GT(read_item_alloc("/proc/sys/kernel", "ostype", &result), 0);
   EXPECT_STREQ(result, "Linux");
   free(result);
+  const int fd = open("/proc/sys/kernel/ostype", O_RDONLY);
+  EXPECT_EQ(read_item_alloc_fd(fd, &result, 2), 2);
+  EXPECT_STREQ(result, "Li") << "the least";
+  free(result);
+  close(fd);
 }
 
 TEST(ReadItem, AllocFailures) {
