@@ -30,6 +30,7 @@
  *           not theirs, so that one word can be passed on from function to function.
  * Items     An item is addressed by a directory and a name, joined with exactly one "/". It is
  *           replaced in place and nothing is locked: another process can see it empty for a moment.
+ *           Paths, and values being stored or compared, take their size in bytes of stack.
  * Process   No set-up, no threads, no state between calls but where a comment tells of it.
  *           Descriptors and streams are closed by the function that opened them, on every path.
  */
@@ -192,8 +193,8 @@ TAVIK_API const char* valid_filename(const char* path);
  * Page output
  *
  * UTF-8 text by character, and printing: plain, byte for byte, or escaped for HTML. Escaped
- * output is pure ASCII: the four markup characters, U+00A0 to U+00FF and everything above become
- * character references, named ones up to U+00FF.
+ * output is pure ASCII: the four markup characters and everything from U+007F on become character
+ * references, named ones for the four and for U+00A0 to U+00FF.
  * ========================================================================================= */
 
 /*
@@ -319,7 +320,7 @@ TAVIK_API void print_num_str_mark(const char* text, const char* mark);
  * Prints what is left of a file as it is. The descriptor stays open.
  *
  * Result: the bytes printed, 0 for what fstat() tells is empty; -1 on an error of fstat(), the
- * read or the output.
+ * read or the output, or if they are more than INT32_MAX.
  */
 TAVIK_API int32_t print_fd(int32_t fd);
 
@@ -506,7 +507,7 @@ TAVIK_API int32_t full_write_fd(int32_t fd, const void* buffer, int32_t count);
 /*
  * Copies what is left of one descriptor to another. Both stay open.
  *
- * Result: the bytes copied; -1 on a read or write error.
+ * Result: the bytes copied; -1 on a read or write error, or if they are more than INT32_MAX.
  */
 TAVIK_API int32_t full_copy_fd(int32_t from, int32_t to);
 
@@ -686,8 +687,8 @@ TAVIK_API int32_t create_concat_item(const char* directory, const char* name, co
 /*
  * Stores a value in an existing item if it differs from the stored one: both are compared in their
  * first size bytes, and the value's first size bytes and one LF are written. The same value is only
- * read, and the file's time stamps stay. A value with a control character never compares as the
- * same.
+ * read, and the file's modification time stays. A value with a control character never compares as
+ * the same.
  *
  * Result: 0 if the stored value is the same; else the bytes written, at least 1; negative on
  * failure, with the file unchanged, but for a failed write, which leaves it truncated or partly

@@ -33,7 +33,12 @@ TEST(CreateItem, WritesTheValueAndOneLineFeed) {
 
 TEST(CreateItem, NumbersJoinedTextsAndFailures) {
   const TempDir dir;
+  const mode_t saved = umask(027);
   EXPECT_EQ(create_item_uint(dir.c_str(), "n", UINT32_MAX), 11);
+  umask(saved);
+  struct stat status {};
+  EXPECT_EQ(stat(dir.path("n").c_str(), &status), 0);
+  EXPECT_EQ(status.st_mode & 07777, 0640U);
   EXPECT_EQ(dir.get("n"), "4294967295\n");
   EXPECT_EQ(create_concat_item(dir.c_str(), "joined", "abc", "def"), 7);
   EXPECT_EQ(dir.get("joined"), "abcdef\n");

@@ -61,14 +61,17 @@ TEST(Print, MemoryIsPrintedByteForByte) {
 
 TEST(Print, StopsWhenTheOutputBreaks) {
   const std::string text(3 * BUFSIZ, 'x');
+  const test::TempDir dir;
+  dir.put("file", text);
+  const int file = open(dir.path("file").c_str(), O_RDONLY);
   fflush(stdout);
   const int saved = dup(STDOUT_FILENO);
   const int full = open("/dev/full", O_WRONLY);
   dup2(full, STDOUT_FILENO);
+  EXPECT_EQ(print_fd(file), -1);
   const uint32_t count = print_str(text.c_str());
   dup2(saved, STDOUT_FILENO);
-  close(saved);
-  close(full);
+  for (const int fd : {saved, full, file}) close(fd);
   clearerr(stdout);
   EXPECT_LT(count, text.size());
   fflush(stdout);
