@@ -75,7 +75,13 @@ TEST(NoMemory, BootEnvironmentIsNotThere) {
 TEST(NoMemory, FilesAndInterfacesAreNotRead) {
   db_row row = {};
   db_row* list = &row;
+  char* text = nullptr;
+  const test::TempDir dir;
   const test::ExhaustedHeap heap;
+  EXPECT_EQ(read_item_alloc("/dev", "null", &text), -1);
+  EXPECT_EQ(text, nullptr);
+  EXPECT_EQ(read_item_uint_fmt(nullptr, "/dev/null"), -1);
+  EXPECT_EQ(remove_dir_leaf(dir.c_str()), 0) << "unlisted, but empty";
   EXPECT_EQ(rd_file_line("/dev/null", nullptr, 0), -1);
   EXPECT_EQ(read_db_file("/dev/null", 2, &list), -1);
   EXPECT_EQ(list, nullptr);
@@ -83,6 +89,34 @@ TEST(NoMemory, FilesAndInterfacesAreNotRead) {
   EXPECT_EQ(read_interface_conf(nullptr, nullptr), -1);
   EXPECT_EQ(read_interface6_conf(nullptr, nullptr), -1);
   EXPECT_EQ(remove_filef("%s", "/none"), -1);
+}
+
+TEST(NoMemory, AQueryIsCopiedAndCountedAsFarAsItGoes) {
+  setenv("REQUEST_METHOD", "GET", 1);
+  setenv("QUERY_STRING", "a&b", 1);
+  const cgi_handler called = [](void*, cgi_attr*, int32_t, int32_t) { return 9; };
+  const int32_t results[] = {0, 2, 9};
+  for (size_t granted = 0; granted < 3; ++granted) {
+    const test::ExhaustedHeap heap(granted);
+    EXPECT_EQ(getcgivars(nullptr, called, nullptr), results[granted]);
+  }
+}
+
+TEST(NoMemory, AnEscapedCopyIsCutShortAndATitleDropped) {
+  const std::string text(9000, 'x');
+  char* out = nullptr;
+  {
+    const test::ExhaustedHeap heap(1);
+    EXPECT_EQ(html_asprint_text(&out, text.c_str()), 4096);
+  }
+  EXPECT_STREQ(out, text.substr(0, 4096 - 15).c_str());
+  free(out);
+  for (size_t granted : {0, 1}) {
+    const test::ExhaustedHeap heap(granted);
+    char* title = nullptr;
+    EXPECT_EQ(asprint_title(&title, "a"), -1);
+    EXPECT_EQ(title, nullptr);
+  }
 }
 
 TEST(NoMemory, AnAddressAheadOfAPrefixFallsBack) {
