@@ -44,15 +44,6 @@ static int32_t save(void* context, cgi_attr* attrs, int32_t count, int32_t kind)
   return 0;
 }
 
-static int32_t as_json;
-
-static int32_t read_query(void* context, cgi_attr* attrs, int32_t count, int32_t kind) {
-  for (int32_t i = 0; i < count; i++) {
-    as_json |= strcmp(attrs[i].name, "format") == 0 && strcmp(attrs[i].value, "json") == 0;
-  }
-  return page_read_outcome(context, attrs, count, kind);
-}
-
 static void print_json(void) {
   uint32_t flags = 0;
   print_str("Content-Type: application/json\r\nCache-Control: no-store\r\n\r\n{");
@@ -76,10 +67,10 @@ static void print_page(const outcome* result) {
 int main(void) {
   outcome result = {0, 0, 0};
   page_guard();
-  getcgivars(&result, save, page_is_post() ? NULL : read_query);
+  getcgivars(&result, save, page_is_post() ? NULL : page_read_outcome);
   if (page_is_post()) {
     page_redirect("system", &result);
-  } else if (as_json) {
+  } else if (page_asks_for("json")) {
     print_json();
   } else {
     print_page(&result);

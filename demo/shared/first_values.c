@@ -6,6 +6,7 @@ const item_value first_values[] = {
     {"owner", "Network team"},
     {"place", "Rack 4, below the patch panel"},
     {"remark", ""},
+    {"bootdevice", "/dev/mtd0"},
     {"hostname", "edge-4"},
     {"location", "Rack 4, below the patch panel"},
     {"contact", "Network team"},

@@ -7,6 +7,7 @@ static const struct {
   const char* page;
   const char* title;
 } navigation[] = {
+    {"status", "Status"},
     {"system", "System"},
     {"network", "Network"},
     {"notes", "Notes"},
@@ -62,10 +63,19 @@ void page_redirect(const char* page, const outcome* result) {
          (unsigned)result->changed, (unsigned)result->failed);
 }
 
+static char asked_format[8];
+
+int32_t page_asks_for(const char* format) {
+  return strcmp(asked_format, format) == 0;
+}
+
 int32_t page_read_outcome(void* context, cgi_attr* attrs, int32_t count, int32_t kind) {
   outcome* result = context;
   (void)kind;
   for (int32_t i = 0; i < count; i++) {
+    if (strcmp(attrs[i].name, "format") == 0) {
+      strsncpy(asked_format, sizeof asked_format, attrs[i].value);
+    }
     uint32_t* bits = strcmp(attrs[i].name, "changed") == 0  ? &result->changed
                      : strcmp(attrs[i].name, "failed") == 0 ? &result->failed
                                                             : NULL;
@@ -85,7 +95,7 @@ static void print_navigation(const char* page) {
   print_str("</nav>\r\n");
 }
 
-void page_begin(const char* page, const char* title) {
+void page_begin_scripted(const char* page, const char* title, const char* script) {
   /* The frame's own html tag comes third; a browser merges this one's language into it. */
   print_head_p1(
       "Content-Type: text/html; charset=utf-8\r\n"
@@ -96,12 +106,17 @@ void page_begin(const char* page, const char* title) {
       "<meta charset=\"utf-8\">\r\n"
       "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\r\n");
   print_head_css("../../assets/style.css", NULL);
+  print_head_script(SCRIPT_OPEN | SCRIPT_CLOSE | SCRIPT_FILE, script);
   print_head_p2(title, NULL);
   print_str("<header><p class=\"device\">Demo device</p></header>\r\n");
   print_navigation(page);
   print_str("<main>\r\n<h1>");
   html_print_text(title);
   print_str("</h1>\r\n");
+}
+
+void page_begin(const char* page, const char* title) {
+  page_begin_scripted(page, title, NULL);
 }
 
 static void print_labels(const char* lead, uint32_t bits, const setting* settings, uint32_t count) {

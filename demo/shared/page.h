@@ -52,8 +52,14 @@ void page_redirect(const char* page, const outcome* result);
 /* A handler for the query that page_redirect() made; the context is an outcome. */
 int32_t page_read_outcome(void* context, cgi_attr* attrs, int32_t count, int32_t kind);
 
+/* Whether the query that page_read_outcome() got asks for this format instead of the page. */
+int32_t page_asks_for(const char* format);
+
 /* Prints all that stands ahead of a page's content. */
 void page_begin(const char* page, const char* title);
+
+/* The same with a script of the demo's assets inlined. */
+void page_begin_scripted(const char* page, const char* title, const char* script);
 
 /* Tells in words what a save did, if there was one. */
 void page_print_outcome(const outcome* result, const setting* settings, uint32_t count);
