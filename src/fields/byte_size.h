@@ -6,10 +6,11 @@
 
 namespace tavik {
 
-// The bytes that so many characters take at most; 0 for a negative number of them.
+// The bytes that so many characters take at most; 0 for a negative number of them. With its
+// terminator a text of that size is still an object that a 32-bit machine can have.
 inline int32_t byte_size(int64_t characters) {
   if (characters < 0) return 0;
-  return characters > INT32_MAX / 3 ? INT32_MAX : static_cast<int32_t>(characters * 3);
+  return characters > INT32_MAX / 3 ? INT32_MAX - 1 : static_cast<int32_t>(characters * 3);
 }
 
 }  // namespace tavik
