@@ -1,5 +1,9 @@
 # Sourced by the other scripts: installs what is missing on a Debian machine.
 
+as_root() {
+  if [ "$(id -u)" -eq 0 ]; then "$@"; else sudo "$@"; fi
+}
+
 # need COMMAND=PACKAGE or need /FILE=PACKAGE ...: installs the packages whose command or file is
 # not there yet, and says which.
 need() {
@@ -12,10 +16,8 @@ need() {
   done
   [ "${#missing[@]}" -eq 0 ] && return
   echo "Installing with apt: ${missing[*]}"
-  local sudo=()
-  [ "$(id -u)" -eq 0 ] || sudo=(sudo)
-  "${sudo[@]}" apt-get update -q >/dev/null
-  "${sudo[@]}" env DEBIAN_FRONTEND=noninteractive \
+  as_root apt-get update -q >/dev/null
+  as_root env DEBIAN_FRONTEND=noninteractive \
     apt-get install -y -q --no-install-recommends "${missing[@]}" >/dev/null
 }
 
