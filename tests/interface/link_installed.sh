@@ -1,17 +1,34 @@
 #!/bin/sh
-# Installs the library below a folder of its own, links the plain C program against it the way a
-# page author does, and runs it, under an emulator if one is named:
-# link_installed.sh BUILD_FOLDER SOURCE C_COMPILER [EMULATOR ...]
+# Installs the library below a folder of its own, builds two programs against it the ways a page
+# author can, and runs them, under an emulator if one is named. The plain C program has libcrypt
+# along, the page that hashes no password does without:
+# link_installed.sh BUILD_FOLDER C_COMPILER [EMULATOR ...]
 set -eu
-build=$1 source=$2 compiler=$3
-shift 3
+build=$1 compiler=$2 sources=$(cd "$(dirname "$0")" && pwd)
+shift 2
 root=$(mktemp -d)
 trap 'rm -rf "$root"' EXIT
 DESTDIR=$root cmake --install "$build" --prefix /opt/tavik >/dev/null
-PKG_CONFIG_PATH=$(dirname "$(find "$root" -name tavik.pc)")
-export PKG_CONFIG_PATH
-# shellcheck disable=SC2046,SC2086  # the flags are words
-"$compiler" -std=c99 -pedantic -Wall -Wextra -Werror "$source" -o "$root/program" \
-  $(pkg-config --cflags --libs tavik) ${LDFLAGS:-}
 cd "$root"
-LD_LIBRARY_PATH=$(pkg-config --variable=libdir tavik) "$@" ./program
+
+PKG_CONFIG_PATH=$(dirname "$(find "$root" -name tavik.pc)")
+LD_LIBRARY_PATH=$(dirname "$PKG_CONFIG_PATH")
+export PKG_CONFIG_PATH
+mkdir pkg-config
+for pair in plain=tavik ../pages/echo=tavik-nocrypt; do
+  # shellcheck disable=SC2046,SC2086  # the flags are words
+  "$compiler" -std=c99 -pedantic -Wall -Wextra -Werror "$sources/${pair%=*}.c" \
+    -o "pkg-config/$(basename "${pair%=*}")" $(pkg-config --cflags --libs "${pair#*=}") ${LDFLAGS:-}
+done
+
+# As a plain user's project: what the installed files say is all that it knows.
+CC=$compiler cmake -G Ninja -S "$sources/installed" -B find_package \
+  -Dtavik_DIR="$LD_LIBRARY_PATH/cmake/tavik" >/dev/null
+cmake --build find_package >/dev/null
+
+export LD_LIBRARY_PATH
+for folder in pkg-config find_package; do
+  "$@" $folder/plain
+  REQUEST_METHOD=GET "$@" $folder/echo
+  if grep -q 'libcrypt[.]so' $folder/echo; then echo "$folder/echo needs libcrypt"; exit 1; fi
+done
