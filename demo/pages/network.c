@@ -242,9 +242,9 @@ static void print_controls(void) {
       controls[c].print(about->name);
       print_str("</div></fieldset>\r\n");
     } else {
-      printf("<p class=\"field\"><label for=\"%s\">%s</label>\r\n", about->name, about->label);
+      page_label(about->name, about->label);
       controls[c].print(about->name);
-      print_str("</p>\r\n");
+      page_field_end();
     }
   }
 }

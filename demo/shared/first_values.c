@@ -25,6 +25,7 @@ const item_value first_values[] = {
     {"ipv6", "1"},
     {"multicast", "0"},
     {"upnp", "0"},
+    {"routes", "198.51.100.0/24 192.0.2.254 Branch office\n203.0.113.0/25 192.0.2.253 Laboratory"},
     {NULL, NULL},
 };
 

@@ -10,6 +10,7 @@ static const struct {
     {"status", "Status"},
     {"system", "System"},
     {"network", "Network"},
+    {"routes", "Routes"},
     {"notes", "Notes"},
 };
 
@@ -149,11 +150,19 @@ void page_form_end(void) {
   print_str("<p class=\"actions\"><button type=\"submit\">Save</button></p>\r\n</form>\r\n");
 }
 
+void page_label(const char* name, const char* label) {
+  printf("<p class=\"field\"><label for=\"%s\">%s</label>\r\n", name, label);
+}
+
+void page_field_end(void) {
+  print_str("</p>\r\n");
+}
+
 void page_text_field(const setting* field) {
-  printf("<p class=\"field\"><label for=\"%s\">%s</label>\r\n", field->name, field->label);
+  page_label(field->name, field->label);
   gen_xtextbox_item(page_state(), field->name, field->maximum, field->flags,
                     " id=\"%s\" name=\"%s\"", field->name, field->name);
-  print_str("</p>\r\n");
+  page_field_end();
 }
 
 void page_end(void) {

@@ -67,6 +67,10 @@ void page_print_outcome(const outcome* result, const setting* settings, uint32_t
 void page_form(const char* page);
 void page_form_end(void);
 
+/* Begins a field with its label; the control, whose id is the name, and page_field_end() follow. */
+void page_label(const char* name, const char* label);
+void page_field_end(void);
+
 /* A text field with its label, for a setting with an item. */
 void page_text_field(const setting* field);
 

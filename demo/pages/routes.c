@@ -1,0 +1,154 @@
+/*
+ * "Routes": a list whose rows can be added, deleted, moved and sorted. ?format=xml gives it as a
+ * document.
+ */
+#include <stdlib.h>
+#include <string.h>
+
+#include "shared/page.h"
+#include "shared/route_list.h"
+
+enum { LIST, NETWORK, GATEWAY, REMARK, OLDER_LIST, SETTING_COUNT };
+
+static const setting settings[SETTING_COUNT] = {
+    [LIST] = {.label = "List of routes"},
+    [NETWORK] = {.name = "network", .label = "Network", .maximum = 18},
+    [GATEWAY] = {.name = "gateway", .label = "Gateway", .maximum = 15},
+    [REMARK] = {.name = "remark", .label = "Remark", .maximum = REMARK_CHARACTERS},
+    [OLDER_LIST] = {.label = "Change to a list that is no longer the current one"},
+};
+
+static const struct {
+  const char* name;
+  const char* label;
+  int32_t (*act)(xtable* routes, uint32_t index);
+} actions[] = {
+    {"up", "Up", xtable_move_up_row},
+    {"down", "Down", xtable_move_dn_row},
+    {"delete", "Delete", xtable_del_row},
+    {"sort", "Sort by network", routes_sort},
+};
+enum { ROW_ACTION_COUNT = 3, ACTION_COUNT = 4 };
+
+static xtable routes;
+
+/* Row numbers mean something in the list that the form showed, and in no other. */
+static void act(outcome* result, size_t action, uint32_t index, uint32_t mark) {
+  if (mark == routes_mark(&routes)) {
+    actions[action].act(&routes, index);
+  } else {
+    result->failed |= 1U << OLDER_LIST;
+  }
+}
+
+static void add(outcome* result, const char* const* texts) {
+  uint32_t wrong = route_add(&routes, texts[NETWORK], texts[GATEWAY], texts[REMARK]);
+  if ((wrong & ROUTE_NETWORK_WRONG) != 0) result->failed |= 1U << NETWORK;
+  if ((wrong & ROUTE_GATEWAY_WRONG) != 0) result->failed |= 1U << GATEWAY;
+}
+
+static int32_t save(void* context, cgi_attr* attrs, int32_t count, int32_t kind) {
+  const char* texts[SETTING_COUNT] = {0};
+  uint32_t mark = 0;
+  (void)kind;
+  for (int32_t i = 0; i < count; i++) {
+    if (strcmp(attrs[i].name, "mark") == 0) mark = str_to_uint(attrs[i].value);
+    for (int s = NETWORK; s <= REMARK; s++) {
+      if (strcmp(attrs[i].name, settings[s].name) == 0) texts[s] = attrs[i].value;
+    }
+    for (size_t a = 0; a < ACTION_COUNT; a++) {
+      if (strcmp(attrs[i].name, actions[a].name) != 0) continue;
+      act(context, a, str_to_uint(attrs[i].value), mark);
+    }
+  }
+  if (texts[NETWORK] != NULL) add(context, texts);
+  page_note(context, LIST, routes_store(&routes));
+  return 0;
+}
+
+static void print_xml(void) {
+  xml_data doc = {0, 0, NULL};
+  xml_data_header(&doc);
+  xml_data_tag(&doc, "routes", XML_TAG_OPEN_NL);
+  for (const xtable_row* row = routes.head; row != NULL; row = row->next) {
+    route_texts texts;
+    route_print((const route*)row, &texts);
+    xml_data_tag(&doc, "route", XML_TAG_START);
+    xml_data_attr_num(&doc, "number", row->index);
+    xml_data_attr_str(&doc, "network", texts.network);
+    xml_data_tag(&doc, NULL, XML_TAG_OPEN_NL);
+    xml_data_element(&doc, "gateway", texts.gateway);
+    xml_data_element(&doc, "remark", ((const route*)row)->remark);
+    xml_data_tag(&doc, "route", XML_TAG_CLOSE);
+  }
+  xml_data_tag(&doc, "routes", XML_TAG_CLOSE);
+  if (doc.capacity == 0) print_str("Status: 500 Internal Server Error\r\n");
+  print_str(
+      "Content-Type: application/xml\r\nCache-Control: no-store\r\n"
+      "X-Content-Type-Options: nosniff\r\n\r\n");
+  print_mem(doc.buffer, doc.length);
+  free(doc.buffer);
+}
+
+static void print_row(const xtable_row* row) {
+  route_texts texts;
+  route_print((const route*)row, &texts);
+  const uint32_t disabled[ROW_ACTION_COUNT] = {row->prev == NULL ? PF_DISABLED : 0,
+                                               row->next == NULL ? PF_DISABLED : 0, 0};
+  html_printf(1,
+              "<tr><td data-label=\"Network\">%s</td><td data-label=\"Gateway\">%s</td>"
+              "<td data-label=\"Remark\">%s</td><td class=\"row-actions\">",
+              texts.network, texts.gateway, ((const route*)row)->remark);
+  for (int a = 0; a < ROW_ACTION_COUNT; a++) {
+    gen_xbutton(actions[a].label, NULL, PF_SUBMIT | disabled[a],
+                " class=\"plain\" name=\"%s\" value=\"%u\" aria-label=\"%s %s\"", actions[a].name,
+                (unsigned)row->index, actions[a].label, texts.network);
+  }
+  print_str("</td></tr>\r\n");
+}
+
+static void print_list(void) {
+  page_form("routes");
+  printf("<input type=\"hidden\" name=\"mark\" value=\"%u\">\r\n", (unsigned)routes_mark(&routes));
+  print_str(
+      "<table class=\"stack\"><thead><tr><th>Network</th><th>Gateway</th><th>Remark</th>"
+      "<th>Change</th></tr></thead>\r\n<tbody>\r\n");
+  for (const xtable_row* row = routes.head; row != NULL; row = row->next) print_row(row);
+  print_str("</tbody></table>\r\n<p class=\"actions\">");
+  gen_xbutton(actions[ROW_ACTION_COUNT].label, NULL, PF_SUBMIT, " class=\"plain\" name=\"sort\"");
+  print_str("<a href=\"routes?format=xml\">The list as XML</a></p>\r\n</form>\r\n");
+}
+
+static void print_page(const outcome* result) {
+  page_begin("routes", "Routes");
+  page_print_outcome(result, settings, SETTING_COUNT);
+  print_list();
+  print_str("<h2>Add a route</h2>\r\n");
+  page_form("routes");
+  for (int s = NETWORK; s <= REMARK; s++) {
+    page_label(settings[s].name, settings[s].label);
+    gen_xtextbox(settings[s].maximum, NULL, 0, " id=\"%s\" name=\"%s\"%s", settings[s].name,
+                 settings[s].name, s == REMARK ? "" : " required");
+    page_field_end();
+  }
+  print_str("<p class=\"actions\">");
+  gen_xbutton("Add", NULL, PF_SUBMIT, NULL);
+  print_str("</p>\r\n</form>\r\n");
+  page_end();
+}
+
+int main(void) {
+  outcome result = {0, 0, 0};
+  page_guard();
+  routes_read(&routes);
+  getcgivars(&result, save, page_is_post() ? NULL : page_read_outcome);
+  if (page_is_post()) {
+    page_redirect("routes", &result);
+  } else if (page_asks_for("xml")) {
+    print_xml();
+  } else {
+    print_page(&result);
+  }
+  xtable_cleanup(&routes);
+  return 0;
+}
