@@ -3,6 +3,7 @@
 #include <stdlib.h>
 #include <string.h>
 
+/* clang-format off: one page a line */
 static const struct {
   const char* page;
   const char* title;
@@ -13,6 +14,7 @@ static const struct {
     {"routes", "Routes"},
     {"notes", "Notes"},
 };
+/* clang-format on */
 
 const char* page_state(void) {
   const char* state = getenv("TAVIK_DEMO_STATE");

@@ -56,11 +56,12 @@ uint32_t route_add(xtable* routes, const char* network, const char* gateway, con
 }
 
 static int32_t take_line(uintptr_t context, char* line) {
+  xtable* routes = (xtable*)context;  // NOLINT(performance-no-int-to-ptr): the word is one
   char network[19] = "";
   char gateway[16] = "";
   int remark = 0;
   if (sscanf(line, "%18s %15s %n", network, gateway, &remark) == 2) {
-    route_add((xtable*)context, network, gateway, line + remark);
+    route_add(routes, network, gateway, line + remark);
   }
   return 0;
 }
