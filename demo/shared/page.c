@@ -3,7 +3,8 @@
 #include <stdlib.h>
 #include <string.h>
 
-/* clang-format off: one page a line */
+/* One page a line. */
+/* clang-format off */
 static const struct {
   const char* page;
   const char* title;
