@@ -66,4 +66,13 @@ uint32_t html_encode_ucs2(char* out, uint32_t character) {
   return put_number(out, character);
 }
 
+uint32_t plain_run(const char* text, uint32_t limit) {
+  uint32_t run = 0;
+  for (; run < limit; ++run) {
+    const auto c = static_cast<unsigned char>(text[run]);
+    if (c == 0 || c >= 0x7F || c == '"' || c == '&' || c == '<' || c == '>') break;
+  }
+  return run;
+}
+
 }  // namespace tavik

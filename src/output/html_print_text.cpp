@@ -9,7 +9,12 @@ uint32_t html_print_ucs2(uint32_t character) {
 uint32_t html_print_text(const char* text) {
   if (text == nullptr) return 0;
   uint32_t written = 0;
-  while (*text != '\0') written += html_print_ucs2(utf8_to_ucs2(&text, UINT32_MAX));
+  while (*text != '\0') {
+    const uint32_t run = tavik::plain_run(text, UINT32_MAX);
+    written += print_mem(text, run);
+    text += run;
+    if (*text != '\0') written += html_print_ucs2(utf8_to_ucs2(&text, UINT32_MAX));
+  }
   return written;
 }
 
@@ -17,6 +22,12 @@ uint32_t html_print_text_limit(uint32_t characters, const char* text, uint32_t b
   if (text == nullptr) return 0;
   uint32_t written = 0;
   while (characters > 0 && bytes > 0 && *text != '\0') {
+    const uint32_t run = tavik::plain_run(text, characters < bytes ? characters : bytes);
+    written += print_mem(text, run);
+    characters -= run;
+    bytes -= run;
+    text += run;
+    if (characters == 0) break;
     const char* const start = text;
     const uint32_t character = utf8_to_ucs2(&text, bytes);
     if (character == 0) break;

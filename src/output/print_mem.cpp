@@ -7,8 +7,9 @@
 uint32_t print_mem(const void* data, uint32_t length) {
   if (data == nullptr) return 0;
   const auto* const bytes = static_cast<const unsigned char*>(data);
+  FILE* const out = stdout;
   uint32_t written = 0;
-  while (written < length && putc_unlocked(bytes[written], stdout) != EOF) ++written;
+  while (written < length && putc_unlocked(bytes[written], out) != EOF) ++written;
   return written;
 }
 
