@@ -33,7 +33,7 @@ need_test_tools() {
 
 need_check_tools() {
   need clang-format=clang-format clang-tidy=clang-tidy valgrind=valgrind shellcheck=shellcheck \
-    git=git
+    cppcheck=cppcheck git=git
 }
 
 # The npm packages of the end-to-end tests, unless they are the locked ones already.
