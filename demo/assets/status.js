@@ -1,6 +1,5 @@
-/* Keeps the table of interfaces up to date, and tells the browser's clock beside the device's. */
+/* Keeps the table of interfaces up to date. */
 const clock = () => new Date().toLocaleTimeString('en-GB');
-const fl_time = () => `, ${clock()} in this browser`;
 
 addEventListener('DOMContentLoaded', () => {
   const body = document.querySelector('#interfaces tbody');

@@ -6,7 +6,6 @@
 #include <arpa/inet.h>
 #include <net/if.h>
 #include <string.h>
-#include <time.h>
 
 #include "shared/page.h"
 
@@ -142,11 +141,7 @@ static void print_boot_environment(void) {
 }
 
 static void print_page(void) {
-  char clock[32];
-  time_t now = time(NULL);
-  strftime(clock, sizeof clock, "%H:%M:%S on the device", localtime(&now));
   page_begin_scripted("status", "Status", "../../assets/status.js");
-  print_timeline(page_state(), "hostname", 189, clock);
   print_interfaces();
   print_boot_environment();
   page_end();

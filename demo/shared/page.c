@@ -2,6 +2,7 @@
 
 #include <stdlib.h>
 #include <string.h>
+#include <time.h>
 
 /* One page a line. */
 /* clang-format off */
@@ -99,7 +100,25 @@ static void print_navigation(const char* page) {
   print_str("</nav>\r\n");
 }
 
+/* Made when the demo was built, since it names the style and the scripts by their hashes. */
+static void print_policy(void) {
+  char policy[2048];
+  if (read_item(PAGE_ASSETS, "policy", policy, sizeof policy - 1) <= 0) return;
+  printf("Content-Security-Policy: %s\r\n", policy);
+}
+
+/* The device's name, and its clock beside the browser's. */
+static void print_head_line(void) {
+  char clock[64];
+  time_t now = time(NULL);
+  strftime(clock, sizeof clock, "%H:%M:%S on the device", localtime(&now));
+  print_str("<header>");
+  print_timeline(page_state(), "hostname", 3 * 63, clock);
+  print_str("</header>\r\n");
+}
+
 void page_begin_scripted(const char* page, const char* title, const char* script) {
+  print_policy();
   /* The frame's own html tag comes third; a browser merges this one's language into it. */
   print_head_p1(
       "Content-Type: text/html; charset=utf-8\r\n"
@@ -109,10 +128,11 @@ void page_begin_scripted(const char* page, const char* title, const char* script
       "<html lang=\"en\">\r\n",
       "<meta charset=\"utf-8\">\r\n"
       "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\r\n");
-  print_head_css("../../assets/style.css", NULL);
+  print_head_css(PAGE_ASSETS "/style.css", NULL);
+  print_head_script(SCRIPT_OPEN | SCRIPT_CLOSE | SCRIPT_FILE, PAGE_ASSETS "/clock.js");
   print_head_script(SCRIPT_OPEN | SCRIPT_CLOSE | SCRIPT_FILE, script);
   print_head_p2(title, NULL);
-  print_str("<header><p class=\"device\">Demo device</p></header>\r\n");
+  print_head_line();
   print_navigation(page);
   print_str("<main>\r\n<h1>");
   html_print_text(title);

@@ -29,6 +29,9 @@ struct outcome {
   int32_t told; /* whether a redirect brought this outcome */
 };
 
+/* The folder of what pages inline, from where a server starts them. */
+#define PAGE_ASSETS "../../assets"
+
 /* The folder of the device's items. */
 const char* page_state(void);
 
