@@ -1,12 +1,16 @@
-"""Compares what the header declares with the export map and with the built library.
+"""Compares what the header declares with the export map, the built library and the plain C program.
 
-Fails on a missing or extra name, an undocumented prototype, a C++ runtime symbol, a needed library
-other than libc (on 32-bit ARM also the loader, for the stack protector), and a call inside the
-library that a function of the same name in a page would redirect.
+Fails on a missing or extra name, a function that the plain C program does not call, an undocumented
+prototype, a C++ runtime symbol, a needed library other than libc (on 32-bit ARM also the loader, for
+the stack protector), and a call inside the library that a function of the same name in a page would
+redirect.
 """
+import glob
 import re
 import subprocess
 import sys
+
+FUNCTIONS = 219
 
 
 def read(path):
@@ -24,11 +28,17 @@ def declared(header):
     return names, bare
 
 
+def called(folder):
+    """All names that a C program calls; only lines of function bodies are indented."""
+    text = "".join(read(path) for path in glob.glob(f"{folder}/*.c"))
+    return set(re.findall(r"\w+(?=\()", "".join(re.findall(r"^ .*", text, re.MULTILINE))))
+
+
 def tool(*words):
     return subprocess.run(words, check=True, capture_output=True, text=True).stdout
 
 
-def main(library, header_path, map_path, nm, readelf):
+def main(library, header_path, map_path, plain_folder, nm, readelf):
     names, bare = declared(read(header_path))
     listed = re.findall(r"^\s*(\w+);$", read(map_path), re.MULTILINE)
     dynamic = [line.split() for line in tool(nm, "-D", library).splitlines()]
@@ -47,6 +57,7 @@ def main(library, header_path, map_path, nm, readelf):
         "in the map, not declared": sorted(set(listed) - set(names)),
         "declared, not exported": sorted(set(names) - set(exported)),
         "exported, not declared": sorted(set(exported) - set(names)),
+        "not called by the plain C program": sorted(set(names) - called(plain_folder)),
         "C++ runtime symbols": runtime,
         "needed libraries": foreign,
         "open to redirection": sorted(set(relocated) & set(exported)),
@@ -55,7 +66,7 @@ def main(library, header_path, map_path, nm, readelf):
         if found:
             print(f"{title}: {', '.join(found)}")
     print(f"{len(names)} functions declared, {len(exported)} exported")
-    return 1 if any(problems.values()) or not names else 0
+    return 1 if any(problems.values()) or len(names) != FUNCTIONS else 0
 
 
 if __name__ == "__main__":

@@ -15,11 +15,15 @@ PKG_CONFIG_PATH=$(dirname "$(find "$root" -name tavik.pc)")
 LD_LIBRARY_PATH=$(dirname "$PKG_CONFIG_PATH")
 export PKG_CONFIG_PATH
 mkdir pkg-config
-for pair in plain=tavik ../pages/echo=tavik-nocrypt; do
+compile() {
+  module=$1 program=$2
+  shift 2
   # shellcheck disable=SC2046,SC2086  # the flags are words
-  "$compiler" -std=c99 -pedantic -Wall -Wextra -Werror "$sources/${pair%=*}.c" \
-    -o "pkg-config/$(basename "${pair%=*}")" $(pkg-config --cflags --libs "${pair#*=}") ${LDFLAGS:-}
-done
+  "$compiler" -std=c99 -pedantic -Wall -Wextra -Werror "$@" -o "pkg-config/$program" \
+    $(pkg-config --cflags --libs "$module") ${LDFLAGS:-}
+}
+compile tavik plain "$sources"/plain/*.c
+compile tavik-nocrypt echo "$sources/../pages/echo.c"
 
 # As a plain user's project: what the installed files say is all that it knows.
 CC=$compiler cmake -G Ninja -S "$sources/installed" -B find_package \
