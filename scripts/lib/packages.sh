@@ -22,12 +22,13 @@ need() {
 }
 
 need_build_tools() {
-  need g++=g++ cmake=cmake ninja=ninja-build pkg-config=pkg-config python3=python3
+  need g++=g++ cmake=cmake ninja=ninja-build pkg-config=pkg-config python3=python3 \
+    openssl=openssl
 }
 
 need_test_tools() {
   need /usr/include/gtest/gtest.h=libgtest-dev /usr/include/gmock/gmock.h=libgmock-dev \
-    xmllint=libxml2-utils openssl=openssl busybox=busybox node=nodejs npm=npm chromium=chromium \
+    xmllint=libxml2-utils busybox=busybox node=nodejs npm=npm chromium=chromium \
     mandoc=mandoc groff=groff-base
 }
 

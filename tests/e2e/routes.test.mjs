@@ -24,7 +24,7 @@ after(async () => {
 const click = (name) => Promise.all([
   page.waitForURL(/changed=/), page.getByRole('button', { name, exact: true }).click()]);
 const told = () => page.getByRole('status').textContent();
-const list = () => page.locator('tbody tr').evaluateAll(
+const list = () => page.locator('main tbody tr').evaluateAll(
   (rows) => rows.map((row) => [...row.cells].slice(0, 3).map((cell) => cell.textContent)));
 const networks = async () => (await list()).map(([network]) => network);
 const file = () => Buffer.from(device.item('routes'), 'latin1').toString();

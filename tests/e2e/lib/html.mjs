@@ -10,14 +10,15 @@ function* elements(node) {
 
 const attribute = (element, name) => element.attrs.find((a) => a.name === name)?.value;
 
+const forms = (html) => [...elements(parse(html))].filter(({ tagName }) => tagName === 'form');
+
 // The values of a page's first form by the names of its controls.
 export function formValues(html) {
-  const form = [...elements(parse(html))].find((element) => element.tagName === 'form');
-  const inputs = [...elements(form)].filter((element) => attribute(element, 'name') !== undefined);
+  const inputs = [...elements(forms(html)[0])].filter((element) => attribute(element, 'name') !== undefined);
   return Object.fromEntries(
     inputs.map((input) => [attribute(input, 'name'), attribute(input, 'value')]));
 }
 
-export function tagNames(html) {
-  return new Set([...elements(parse(html))].map((element) => element.tagName));
-}
+// The kinds of elements in a page's forms.
+export const formTags = (html) => new Set(
+  forms(html).flatMap((form) => [...elements(form)].map(({ tagName }) => tagName)));
