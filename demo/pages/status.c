@@ -60,11 +60,13 @@ static int32_t add_ipv6(const iface_info* info) {
 static void read_cells(const char* name) {
   static const char* const links[] = {"unknown", "down", "up"};
   iface_info info;
+  uint32_t phy = 0;
   memset(cells, 0, sizeof cells);
   strsncpy(cells[NAME], sizeof cells[NAME], name);
   int32_t found = get_interface(name, &info) == 0;
   strsncpy(cells[STATE], sizeof cells[STATE], found && (info.flags & IFF_UP) != 0 ? "up" : "down");
-  strsncpy(cells[LINK], sizeof cells[LINK], links[get_link_status(name, 0) + 1]);
+  read_item_uint(page_state(), "phy", &phy);
+  strsncpy(cells[LINK], sizeof cells[LINK], links[get_link_status(name, phy) + 1]);
   read_interface_conf(name, add_ipv4);
   read_interface6_conf(name, add_ipv6);
 }

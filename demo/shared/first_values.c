@@ -7,6 +7,7 @@ const item_value first_values[] = {
     {"place", "Rack 4, below the patch panel"},
     {"remark", ""},
     {"bootdevice", "/dev/mtd0"},
+    {"phy", "0"},
     {"hostname", "edge-4"},
     {"location", "Rack 4, below the patch panel"},
     {"contact", "Network team"},
