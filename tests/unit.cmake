@@ -24,7 +24,7 @@ file(GLOB unit_sources CONFIGURE_DEPENDS
   support/*.cpp request/*_test.cpp output/*_test.cpp items/*_test.cpp fields/*_test.cpp
   auth/*_test.cpp net/*_test.cpp shell/*_test.cpp data/*_test.cpp)
 add_executable(unit ${unit_sources})
-add_dependencies(unit ${page_targets})
+add_dependencies(unit ${pages_targets})
 list(JOIN CMAKE_CROSSCOMPILING_EMULATOR " " emulator)
 target_compile_definitions(unit PRIVATE
   TEST_PAGES="${CMAKE_CURRENT_BINARY_DIR}/pages" TEST_EMULATOR="${emulator}")

@@ -7,7 +7,7 @@ import path from 'node:path';
 
 const demo = process.env.TAVIK_DEMO ?? path.resolve('../../build/release/demo');
 
-function freePort() {
+export function freePort() {
   return new Promise((resolve, reject) => {
     const probe = net.createServer();
     probe.on('error', reject);
