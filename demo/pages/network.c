@@ -8,6 +8,7 @@
 #include "shared/address_controls.h"
 #include "shared/first_values.h"
 #include "shared/page.h"
+#include "shared/text_select.h"
 
 enum { MTU_LEAST = 576, MTU_MOST = 9000, MTU_USUAL = 1500, NOTE_CHARACTERS = 500 };
 
@@ -90,18 +91,11 @@ static int32_t zone_row(uint32_t index, uintptr_t arg, selectbox_text_option* ou
 }
 
 static void print_zone(const char* name) {
-  select_state state = {0, {0}};
-  char attributes[64];
-  snprintf(attributes, sizeof attributes, " id=\"%s\"", name);
-  rd_selectbox_text_item(page_state(), name, &state, zone_row, 0, "lan");
-  gen_selectbox_text(&state, name, zone_row, NULL, 0, attributes);
+  text_select_print(name, zone_row, 0, "lan");
 }
 
 static int32_t store_zone(const char* name, const char* text) {
-  select_state state = {0, {0}};
-  rd_selectbox_text_item(page_state(), name, &state, zone_row, 0, "lan");
-  scan_select_text(text, &state, zone_row, 0);
-  return update_item(page_state(), name, state.value.text, 16);
+  return text_select_store(name, text, zone_row, 0, "lan");
 }
 
 /* Name servers: radio buttons. */
@@ -266,13 +260,5 @@ static void print_page(const outcome* result) {
 }
 
 int main(void) {
-  outcome result = {0, 0, 0};
-  page_guard();
-  getcgivars(&result, save, page_is_post() ? NULL : page_read_outcome);
-  if (page_is_post()) {
-    page_redirect("network", &result);
-  } else {
-    print_page(&result);
-  }
-  return 0;
+  return page_run("network", save, print_page);
 }

@@ -143,7 +143,7 @@ static void print_boot_environment(void) {
 }
 
 static void print_page(void) {
-  page_begin_scripted("status", "Status", "../../assets/status.js");
+  page_begin_scripted("status", "Status", PAGE_ASSETS "/status.js");
   print_interfaces();
   print_boot_environment();
   page_end();

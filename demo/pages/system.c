@@ -2,27 +2,22 @@
  * "System": the device's name and whereabouts, its time server, and a passphrase that is shown as
  * bullets. ?format=json gives the settings that other programs ask for.
  */
-#include <string.h>
-
 #include "shared/page.h"
-
-static int32_t printable(uint32_t position, uint32_t character) {
-  (void)position;
-  return character >= 0x20 && character != 0x7F;
-}
+#include "shared/text_filters.h"
 
 enum { HOST_NAME, LOCATION, CONTACT, TIME_SERVER, PASSPHRASE, SETTING_COUNT };
 
 static const setting settings[SETTING_COUNT] = {
     [HOST_NAME] = {"hostname", "Host name", 63, 0, textbox_filter_dns},
-    [LOCATION] = {"location", "Location", 80, 0, printable},
-    [CONTACT] = {"contact", "Contact", 80, 0, printable},
+    [LOCATION] = {"location", "Location", 80, 0, text_filter_line},
+    [CONTACT] = {"contact", "Contact", 80, 0, text_filter_line},
     [TIME_SERVER] = {"timeserver", "Time server", 63, 0, textbox_filter_dns6},
     [PASSPHRASE] = {"passphrase", "Passphrase", 32, PF_PASSWORD | PF_AUTOCOMPLETE_OFF,
                     textbox_filter_ascii_printable},
 };
 
-static int32_t store(const setting* field, const char* text) {
+static int32_t store(uint32_t index, const char* text) {
+  const setting* field = &settings[index];
   if ((field->flags & PF_PASSWORD) == 0) {
     return update_textbox_item(page_state(), field->name, text, (uint32_t)field->maximum,
                                field->filter);
@@ -35,12 +30,7 @@ static int32_t store(const setting* field, const char* text) {
 
 static int32_t save(void* context, cgi_attr* attrs, int32_t count, int32_t kind) {
   (void)kind;
-  for (int32_t i = 0; i < count; i++) {
-    for (uint32_t s = 0; s < SETTING_COUNT; s++) {
-      if (strcmp(attrs[i].name, settings[s].name) != 0) continue;
-      page_note(context, s, store(&settings[s], attrs[i].value));
-    }
-  }
+  page_store_form(context, attrs, count, settings, SETTING_COUNT, store);
   return 0;
 }
 

@@ -14,6 +14,9 @@ static const struct {
     {"system", "System"},
     {"network", "Network"},
     {"routes", "Routes"},
+    {"mobile", "Mobile"},
+    {"vpn", "VPN"},
+    {"schedule", "Schedule"},
     {"notes", "Notes"},
 };
 /* clang-format on */
@@ -61,6 +64,16 @@ void page_guard(void) {
 void page_note(outcome* result, uint32_t index, int32_t stored) {
   if (stored > 0) result->changed |= 1U << index;
   if (stored < 0) result->failed |= 1U << index;
+}
+
+void page_store_form(outcome* result, const cgi_attr* attrs, int32_t count, const setting* settings,
+                     uint32_t setting_count, int32_t (*store)(uint32_t index, const char* text)) {
+  for (int32_t i = 0; i < count; i++) {
+    for (uint32_t s = 0; s < setting_count; s++) {
+      if (strcmp(attrs[i].name, settings[s].name) != 0) continue;
+      page_note(result, s, store(s, attrs[i].value));
+    }
+  }
 }
 
 void page_redirect(const char* page, const outcome* result) {
@@ -191,4 +204,16 @@ void page_text_field(const setting* field) {
 void page_end(void) {
   print_str("</main>\r\n");
   print_foot();
+}
+
+int page_run(const char* page, cgi_handler save, void (*print_page)(const outcome* result)) {
+  outcome result = {0, 0, 0};
+  page_guard();
+  getcgivars(&result, save, page_is_post() ? NULL : page_read_outcome);
+  if (page_is_post()) {
+    page_redirect(page, &result);
+  } else {
+    print_page(&result);
+  }
+  return 0;
 }

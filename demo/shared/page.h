@@ -49,6 +49,13 @@ int32_t page_trusts_query(void);
 /* Notes the result of an update function for the setting with this index. */
 void page_note(outcome* result, uint32_t index, int32_t stored);
 
+/*
+ * Calls store(index, value) for each value of a form that has the name of a setting, in the form's
+ * order, and notes the results.
+ */
+void page_store_form(outcome* result, const cgi_attr* attrs, int32_t count, const setting* settings,
+                     uint32_t setting_count, int32_t (*store)(uint32_t index, const char* text));
+
 /* Answers a POST: the browser gets the page again, which tells the outcome. */
 void page_redirect(const char* page, const outcome* result);
 
@@ -78,5 +85,8 @@ void page_field_end(void);
 void page_text_field(const setting* field);
 
 void page_end(void);
+
+/* The whole run of a page with a form, for pages that need nothing in between. Result: 0. */
+int page_run(const char* page, cgi_handler save, void (*print_page)(const outcome* result));
 
 #endif

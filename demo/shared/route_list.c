@@ -4,18 +4,12 @@
 #include <string.h>
 
 #include "shared/page.h"
+#include "shared/text_filters.h"
 
 enum {
   LINE_SIZE = 18 + 1 + 15 + 1 + 3 * REMARK_CHARACTERS + 1,
   FILE_SIZE = ROUTE_MOST * LINE_SIZE
 };
-
-/* What an XML document can hold, without control characters. */
-static int32_t in_documents(uint32_t position, uint32_t character) {
-  (void)position;
-  int32_t surrogate = character >= 0xD800 && character <= 0xDFFF;
-  return character >= 0x20 && character != 0x7F && character < 0xFFFE && !surrogate;
-}
 
 void route_print(const route* one, route_texts* out) {
   char address[INET_ADDRSTRLEN];
@@ -51,7 +45,8 @@ uint32_t route_add(xtable* routes, const char* network, const char* gateway, con
   if (added == NULL) return ROUTE_NETWORK_WRONG;
   added->network = scanned;
   added->gateway = hop;
-  scan_textbox(remark, REMARK_CHARACTERS, 0, added->remark, sizeof added->remark - 1, in_documents);
+  scan_textbox(remark, REMARK_CHARACTERS, 0, added->remark, sizeof added->remark - 1,
+               text_filter_line);
   return 0;
 }
 

@@ -1,7 +1,7 @@
 // The Network page: every kind of control, in a real browser and posted to directly.
 import assert from 'node:assert/strict';
 import { after, before, test } from 'node:test';
-import { openBrowser } from './lib/browser.mjs';
+import { openBrowser, press } from './lib/browser.mjs';
 import { startDevice } from './lib/server.mjs';
 
 let device;
@@ -24,8 +24,6 @@ after(async () => {
 const stored = () => Object.fromEntries(items.map((name) => [name, device.item(name)]));
 const stamps = () => items.map(device.changedAt);
 const told = () => page.getByRole('status').textContent();
-const press = (name) => Promise.all([
-  page.waitForURL(/changed=/), page.getByRole('button', { name }).click()]);
 
 const typed = {
   mode: '1\n', address: '10.1.2.3\n', netmask: '255.255.0.0\n', route: '10.9.0.0/16\n',
@@ -46,7 +44,7 @@ test('every control carries its value to the item and back', async () => {
   await page.getByLabel('Notes').fill('first <line>\nsecond & "last"');
   await page.getByLabel('IPv6').uncheck();
   await page.getByLabel('Multicast').check();
-  await press('Save');
+  await press(page, 'Save');
   assert.deepEqual(stored(), typed);
   assert.match(await told(), /^Saved: Address mode, Address, Netmask, .*IPv6, Multicast\. $/);
   await page.reload();
@@ -58,7 +56,7 @@ test('every control carries its value to the item and back', async () => {
 
 test('saving unchanged touches no file', async () => {
   const before = stamps();
-  await press('Save');
+  await press(page, 'Save');
   assert.match(await told(), /^Nothing has changed/);
   assert.deepEqual(stamps(), before);
 });
@@ -78,7 +76,7 @@ test('the form works with the keyboard alone', async () => {
 });
 
 test('the first values can be had again', async () => {
-  await press('Restore first values');
+  await press(page, 'Restore first values');
   assert.equal(device.item('address'), '192.0.2.1\n');
   assert.equal(device.item('pool'), '100-199\n');
   assert.equal(device.item('ipv6'), '1\n');

@@ -1,7 +1,7 @@
 // The Routes page: the list in a real browser, posted to directly, and as a document.
 import assert from 'node:assert/strict';
 import { after, before, test } from 'node:test';
-import { openBrowser } from './lib/browser.mjs';
+import { openBrowser, press } from './lib/browser.mjs';
 import { startDevice } from './lib/server.mjs';
 
 let device;
@@ -21,8 +21,7 @@ after(async () => {
   await device?.stop();
 });
 
-const click = (name) => Promise.all([
-  page.waitForURL(/changed=/), page.getByRole('button', { name, exact: true }).click()]);
+const click = (name) => press(page, name);
 const told = () => page.getByRole('status').textContent();
 const list = () => page.locator('main tbody tr').evaluateAll(
   (rows) => rows.map((row) => [...row.cells].slice(0, 3).map((cell) => cell.textContent)));

@@ -1,7 +1,7 @@
 // The System page, in a real browser and posted to directly.
 import assert from 'node:assert/strict';
 import { after, before, test } from 'node:test';
-import { openBrowser } from './lib/browser.mjs';
+import { openBrowser, press } from './lib/browser.mjs';
 import { startDevice } from './lib/server.mjs';
 
 let device;
@@ -21,8 +21,7 @@ after(async () => {
 });
 
 const stamps = () => items.map(device.changedAt);
-const save = () => Promise.all([
-  page.waitForURL(/changed=/), page.getByRole('button', { name: 'Save' }).click()]);
+const save = () => press(page, 'Save');
 const told = () => page.getByRole('status').textContent();
 
 async function json() {

@@ -8,3 +8,9 @@ export function openBrowser() {
       '--disable-background-networking', '--disable-component-update', '--disable-sync'],
   });
 }
+
+// Presses the button of a form and waits for the page that the device sends it on to.
+export function press(page, name) {
+  return Promise.all([
+    page.waitForEvent('load'), page.getByRole('button', { name, exact: true }).click()]);
+}
