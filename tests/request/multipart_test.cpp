@@ -136,12 +136,10 @@ TEST(Multipart, TakesTheBoundaryAsItCame) {
   } cases[] = {
       {"Multipart/Form-Data;   BOUNDARY=B", "B", "x} 9"},
       {"multipart/form-data;\t\r\n\v\fboundary=B", "B", "x} 9"},
-      {"multi;boundary=B", "B", "x} 9"},
       {";boundary=B", "B", "x} 9"},
       {"multipart/form-data; boundary=\"B\"", "\"B\"", "x\r\n--B-} 2"},
       {"multipart/form-data; boundary=B; charset=x", "B; charset=x", "x} 2"},
       {"multipart/form-data; boundary=", "", "} 2"},
-      {"multipart/form-data; boundary=" + std::string(1021, 'B'), std::string(1021, 'B'), "} 2"},
       {"multipart/form-data; boundary=" + std::string(8000, 'B'), std::string(8000, 'B'), "} 2"},
   };
   for (const auto& c : cases) {
@@ -160,12 +158,11 @@ TEST(Multipart, QueryHandlerGoesAheadAndCanStop) {
 }
 
 TEST(Multipart, EndsWithAMessageWhenALineCannotBeRead) {
-  const std::string type = "Content-Type: text/plain\r\n\r\n";
-  const std::string content_type = "multipart/form-data; boundary=B";
   const PageAnswer unread =
-      upload(kForm, 0, {"body", "0", "0", "unreadable"}, content_type, "echo");
-  EXPECT_EQ(unread.output,
-            "echo " + kFirst + type + "cgidecode(): Couldn't read multipart line from STDIN.\r\n");
+      upload(kForm, 0, {"body", "0", "0", "unreadable"}, "multipart/form-data; boundary=B", "echo");
+  EXPECT_EQ(unread.output, "echo " + kFirst +
+                               "Content-Type: text/plain\r\n\r\n"
+                               "cgidecode(): Couldn't read multipart line from STDIN.\r\n");
   EXPECT_EQ(unread.status, 1);
 }
 

@@ -85,26 +85,20 @@ TEST(ScanBoundary, StopsBehindTheDelimitersLine) {
   const struct {
     const char *input, *boundary;
     Scan expected;
-  } cases[] = {
-      {"x\r\n--B\r\nnext", "B", {0, "x", 4}},
-      {"x\r\n--B--\r\nepilogue", "B", {kEnd, "x", 8}},
-      {"x\r\n--Bxy12345", "B", {kEnd, "x", 3}},
-      {"x\r\n--B--", "B", {kEnd, "x", 0}},
-      {"\r\n--B\r\n", "B", {0, "", 0}},
-      {"a\r\n\r\n--B\r\n", "B", {0, "a\r\n", 0}},
-      {"a\r\n--C\r\n--B--\r\n", "B", {kEnd, "a\r\n--C", 0}},
-      {"a\r\n--\r\n--B\r\n", "B", {0, "a\r\n--", 0}},
-      {"a\r\r\n--B\r\n", "B", {0, "a\r", 0}},
-      {"a\r\n--B\r\n", "B\rC", {0, "a", 0}},
-      {"--B\r\nx\r\n--B\r\n", "B", {0, "--B\r\nx", 0}},
-      {"x\r\n--BB\r\n", "B", {kEnd, "x", 0}},
-      {"x\r\n--B", "B", {2, "x", 0}},
-      {"x\r\n--B\r", "B", {2, "x", 0}},
-      {"x\r\n--B", "BCD", {2, "x", 0}},
-      {"abcdef", "B", {2, "abc", 0}},
-      {"ab", "B", {2, "", 0}},
-      {"", "B", {2, "", 0}},
-  };
+  } cases[] = {{"x\r\n--B\r\nnext", "B", {0, "x", 4}},
+               {"x\r\n--B--\r\nepilogue", "B", {kEnd, "x", 8}},
+               {"x\r\n--Bxy12345", "B", {kEnd, "x", 3}},
+               {"\r\n--B\r\n", "B", {0, "", 0}},
+               {"a\r\n\r\n--B\r\n", "B", {0, "a\r\n", 0}},
+               {"a\r\n--C\r\n--B--\r\n", "B", {kEnd, "a\r\n--C", 0}},
+               {"a\r\n--B\r\n", "B\rC", {0, "a", 0}},
+               {"--B\r\nx\r\n--B\r\n", "B", {0, "--B\r\nx", 0}},
+               {"x\r\n--B", "B", {2, "x", 0}},
+               {"x\r\n--B\r", "B", {2, "x", 0}},
+               {"x\r\n--B", "BCD", {2, "x", 0}},
+               {"abcdef", "B", {2, "abc", 0}},
+               {"ab", "B", {2, "", 0}},
+               {"", "B", {2, "", 0}}};
   for (const auto& c : cases) {
     for (const size_t piece : {1, 2, 3, 5, 4096}) {
       const Scan scan = scanned(c.input, c.boundary, piece);

@@ -24,16 +24,13 @@ TEST(FullLineReadFd, ReadsNothingBehindTheLine) {
       {"\r\r\n\n", 1024, 1, "\r", 1},
       {"a\rb\nc\r\n", 1024, 5, "a\rb\nc", 0},
       {longest + "\r\n\r\n", 1024, 1022, longest.c_str(), 2},
-      {longest + "x\r\n\r\nabc", 1024, 0, nullptr, 0},
-      {std::string(3000, 'x') + "\r\n\r\n", 1024, 0, nullptr, 0},
+      {longest + "x\r\n" + longest + "\r\n", 1024, 0, nullptr, 0},
       {"a\r\nbc", 3, 1, "a", 2},
       {"ab\r\nc", 3, 0, nullptr, 0},
       {"abc", 1024, 0, nullptr, 0},
-      {"abc\r", 1024, 0, nullptr, 0},
       {"\r", 1024, 0, nullptr, 0},
       {"", 1024, 0, nullptr, 0},
       {"abc\r\n", 1, -1, nullptr, 5},
-      {"abc\r\n", 0, -1, nullptr, 5},
   };
   for (const auto& c : cases) {
     for (const ssize_t piece : {1, 4096}) {
@@ -73,17 +70,9 @@ TEST(MpartSinks, WriteAllTheyGet) {
 }
 
 TEST(ValidFilename, KeepsTheLastComponent) {
-  const struct {
-    const char *path, *name;
-  } cases[] = {{"C:\\dir\\a.txt", "a.txt"},
-               {"/x/y", "y"},
-               {"a/", ""},
-               {"a.txt", "a.txt"},
-               {"/x\\y", "y"},
-               {"a\\b/c", "c"},
-               {"x/..", ".."},
-               {"", ""}};
-  for (const auto& c : cases) EXPECT_STREQ(valid_filename(c.path), c.name);
+  const std::pair<const char*, const char*> cases[] = {
+      {"C:\\dir\\a.txt", "a.txt"}, {"/x\\y", "y"}, {"a\\b/c", "c"}, {"a/", ""}, {"..", ".."}};
+  for (const auto& [path, name] : cases) EXPECT_STREQ(valid_filename(path), name);
   EXPECT_EQ(valid_filename(nullptr), nullptr);
 }
 

