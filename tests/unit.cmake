@@ -28,7 +28,7 @@ add_dependencies(unit ${pages_targets})
 list(JOIN CMAKE_CROSSCOMPILING_EMULATOR " " emulator)
 target_compile_definitions(unit PRIVATE
   TEST_PAGES="${CMAKE_CURRENT_BINARY_DIR}/pages" TEST_EMULATOR="${emulator}")
-target_link_libraries(unit PRIVATE test_options)
+target_link_libraries(unit PRIVATE test_options tavik::harness)
 gtest_discover_tests(unit DISCOVERY_MODE PRE_TEST)
 
 # What happens at the heap's boundary. The program brings a malloc() of its own, which the address
