@@ -37,7 +37,6 @@ TEST_F(FlatDatabase, ReadsRowsOfLines) {
       {"A\n\n\nB\n\n", 3, "(A|)()(B|)()"},
       {"#x\nA\n#y\nB\n #z\n", 9, "(A|B| #z|)"},
       {"# only\n#comments\n", 3, ""},
-      {"", 3, ""},
       {"A \tlost\r\n\x7F\n  B\x01\n\xC3\xA4#\n\tC\nD\r\n", 3, "(A |)(  B|\xC3\xA4#|)(D|)"},
       {string("A\0B\n\0C\nD\n", 9), 3, "(A|)(D|)"},
       {"A\n\nB\n", 0, "()()"},
@@ -82,12 +81,9 @@ TEST_F(FlatDatabase, PrintsASelectControl) {
     string item;
     int32_t size;
     string flags, de, odd;
-  } cases[] = {
-      {"de\n", 9, "", " selected", ""},  {"de x\n", 2, "", " selected", ""},
-      {"\"&\n", 2, "", "", " selected"}, {"d\n", 2, "", "", ""},
-      {"\n", 9, " disabled", "", ""},    {"de\n", 0, " disabled", "", ""},
-      {"de\n", -1, " disabled", "", ""},
-  };
+  } cases[] = {{"de\n", 9, "", " selected", ""},  {"de x\n", 2, "", " selected", ""},
+               {"\"&\n", 2, "", "", " selected"}, {"d\n", 2, "", "", ""},
+               {"\n", 9, " disabled", "", ""},    {"de\n", -1, " disabled", "", ""}};
   for (const auto& c : cases) {
     dir_.put("item", c.item);
     EXPECT_EQ(test::printed([&] {

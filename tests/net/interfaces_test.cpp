@@ -69,7 +69,7 @@ TEST(Interfaces, Loopback) {
   }
 }
 
-TEST(Interfaces, StatesAndListsOfEveryLengthInAPrivateNetwork) {
+TEST(Interfaces, StatesAndListsInAPrivateNetwork) {
   const test::ChildAnswer answer = in_private_network([] {
     for (const char* name : {"lo", "abcdefghijklmnopq", "eth0", ""}) state(name);
     const test::ScriptedIoctl watch([](int, unsigned long request, void* list) {
@@ -77,34 +77,26 @@ TEST(Interfaces, StatesAndListsOfEveryLengthInAPrivateNetwork) {
       if (bytes != 0) printf("%zu ", bytes / sizeof(ifreq));
       return std::optional<int>();
     });
-    for (int count = 2; count <= 41; ++count) {
+    for (int count = 2; count <= 40; ++count) {
       ifreq wish = {};
       snprintf(wish.ifr_name, IFNAMSIZ, "lo:%d", count);
       sockaddr_in address = {AF_INET, 0, {htonl(0x0A000000U + static_cast<unsigned>(count))}, {}};
       memcpy(&wish.ifr_addr, &address, sizeof address);
       ioctl(socket(AF_INET, SOCK_DGRAM, 0), SIOCSIFADDR, &wish);
-      if (count > 2 && (count < 29 || count > 31) && count < 40) continue;
-      for (const char* prefix : {"lo:2", "lo:31", "abc"}) read_interface_conf(prefix, show);
-      printf("%d\n", read_interface_conf("", nullptr));
+      if (count == 29 || count == 30 || count == 40) read_interface_conf("lo:4", show);
     }
     state("lo:2");
-    read_interface_conf(nullptr, [](const ifreq*, int32_t i) { return i == 40 ? puts("41") : 0; });
-    return 0;
+    read_interface_conf(nullptr, [](const ifreq*, int32_t i) { return i == 39 ? puts("40") : 0; });
+    return read_interface_conf("", nullptr);
   });
   if (answer.status == kRefused) GTEST_SKIP() << "no private network on this machine";
-  const string twos =
-      "0:lo:2=10.0.0.2 1:lo:20=10.0.0.20 2:lo:21=10.0.0.21 3:lo:22=10.0.0.22 "
-      "4:lo:23=10.0.0.23 5:lo:24=10.0.0.24 6:lo:25=10.0.0.25 7:lo:26=10.0.0.26 "
-      "8:lo:27=10.0.0.27 9:lo:28=10.0.0.28 10:lo:29=10.0.0.29 ";
-  const string thirty = "30 40 ", fifty = "30 40 50 ", last = "0:lo:31=10.0.0.31 ";
-  EXPECT_EQ(answer.output, kLoopback + string("0 1 ..............1002; -1 -1 --------------0; ") +
-                               "-1 -1 --------------0; 30 0:lo:2=10.0.0.2 30 30 30 0\n"
-                               "30 " +
-                               twos + "30 30 30 0\n" + thirty + twos + thirty + thirty + thirty +
-                               "0\n" + thirty + twos + thirty + last + thirty + thirty + "0\n" +
-                               fifty + twos + fifty + last + fifty + fifty + "0\n" + fifty + twos +
-                               fifty + last + fifty + fifty + "0\n" +
-                               "0 0 2000000 a000002 .....2000000 ff000000 .....49; 30 40 50 41\n");
+  EXPECT_EQ(answer.output, kLoopback + string("0 1 ..............1002; -1 -1 --------------0; "
+                                              "-1 -1 --------------0; 30 0:lo:4=10.0.0.4 "
+                                              "30 40 0:lo:4=10.0.0.4 "
+                                              "30 40 50 0:lo:4=10.0.0.4 1:lo:40=10.0.0.40 "
+                                              "0 0 2000000 a000002 .....2000000 ff000000 .....49; "
+                                              "30 40 50 40\n30 40 50 "));
+  EXPECT_EQ(answer.status, 0);
 }
 
 TEST(Interfaces, Ipv6AddressesInAPrivateNetwork) {
