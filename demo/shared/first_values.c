@@ -29,6 +29,7 @@ const item_value first_values[] = {
     {"vpnpeer", "vpn.example.net"},
     {"vpncipher", "AES-256-CBC"},
     {"vpndigest", "SHA256"},
+    {"vpncert", ""},
     {"restart_time", "03:30"},
     {"restart_days", "1"},
     {"backup_time", "22:00"},

@@ -1,5 +1,7 @@
 // The pages Mobile, VPN and Schedule: filled in, reloaded, saved unchanged, and posted to directly.
 import assert from 'node:assert/strict';
+import fs from 'node:fs';
+import path from 'node:path';
 import { after, before, test } from 'node:test';
 import { openBrowser, press } from './lib/browser.mjs';
 import { startDevice } from './lib/server.mjs';
@@ -95,19 +97,31 @@ test('Mobile: septets are counted while typing, and stored texts as well', async
 });
 
 test('VPN: the selects store values and refuse what is none', async () => {
+  const folder = path.join(device.state, 'certificates');
+  const name = `"b" & 's' <\u00E9>.pem`;
+  fs.mkdirSync(folder, { recursive: true });
+  for (const file of ['a.crt', name, '.hidden']) fs.writeFileSync(path.join(folder, file), '');
   await open('vpn');
-  await saveUnchanged(['vpnpeer', 'vpncipher', 'vpndigest']);
+  await saveUnchanged(['vpnpeer', 'vpncipher', 'vpndigest', 'vpncert']);
+  assert.deepEqual(await labels('Certificate'), [name, 'a.crt', 'None']);
+  await label('Certificate').selectOption(name);
   assert.equal((await labels('Cipher')).length, 13);
   await label('Cipher').selectOption('CAST5 128 Bit');
   await label('Digest').selectOption('None');
   await save();
-  assert.equal(await told(), 'Saved: Cipher, Digest. ');
+  assert.equal(await told(), 'Saved: Cipher, Digest, Certificate. ');
   await page.reload();
   assert.equal(await label('Cipher').inputValue(), 'CAST5-CBC');
   assert.equal(value('vpndigest'), 'none');
+  assert.equal(value('vpncert'), name);
+  const encoded = (file) => `vpncert=${encodeURIComponent(Buffer.from(file).toString('base64'))}`;
+  await saveUnchanged(['vpncert']);
   await bodies('vpn', [
     ['vpncipher=aes-256-cbc', 0, 'vpncipher', 'CAST5-CBC'], ['vpncipher=', 0, 'vpncipher', 'CAST5-CBC'],
     ['vpndigest=SHA5120', 0, 'vpndigest', 'none'], ['vpndigest=SHA512', 0, 'vpndigest', 'SHA512'],
+    ...['../hostname', '.hidden', 'gone.pem', 'x'.repeat(121), '\u0000'].map(
+      (file) => [encoded(file), 8, 'vpncert', name]),
+    ['vpncert=!', 8, 'vpncert', name], ['vpncert=', 0, 'vpncert', ''], [encoded('a.crt'), 0, 'vpncert', 'a.crt'],
     ['vpnpeer=a%22%3Cb_.example', 0, 'vpnpeer', 'ab.example'],
   ]);
 });
