@@ -1,3 +1,4 @@
+# shellcheck shell=bash
 # Sourced by scripts/target: uClibc for 32-bit ARM and the compilers that build for it.
 
 cross=arm-linux-gnueabihf-
