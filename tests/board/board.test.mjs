@@ -1,5 +1,6 @@
 // The library and the demo device on the emulated board: the device's libc, flash and a PHY.
 import assert from 'node:assert/strict';
+import fs from 'node:fs';
 import { after, before, test } from 'node:test';
 import { Board } from './board.mjs';
 import { formValues } from '../e2e/lib/html.mjs';
@@ -36,7 +37,7 @@ test('the status page shows link and boot environment', async () => {
   const { interfaces } = await (await page('status?format=json')).json();
   const eth0 = interfaces.find(({ name }) => name === 'eth0');
   assert.deepEqual([eth0.state, eth0.link, eth0.ipv4], ['up', 'up', '10.0.2.15/24']);
-  assert.match(eth0.ipv6, /^fe80:/);
+  assert.match(eth0.ipv6, /\bfe80:/);
   assert.match(await (await page('status')).text(), /serial#<.*>TK-0042</);
 });
 
@@ -72,6 +73,12 @@ test('the PHY is powered down and up', async () => {
   assert.match(await link('eth0 6 down'), /^power 1 .*control 3800$/);
   assert.match(await link('eth0 6 up'), /^power 0 .*control 3000$/);
   assert.match(await link('lo 6 down'), /^power -1 /);
+});
+
+test('every page is served whole', async () => {
+  for (const name of fs.readdirSync('build/board-test/root/demo/www/cgi-bin')) {
+    assert.match(await (await page(name)).text(), /<\/html>\s*$/, name);
+  }
 });
 
 test('after all that pages are served and the board restarts', async () => {
