@@ -31,7 +31,7 @@ target_compile_definitions(unit PRIVATE
 target_link_libraries(unit PRIVATE test_options tavik::harness)
 gtest_discover_tests(unit DISCOVERY_MODE PRE_TEST)
 
-# What happens at the heap's boundary. The program brings a malloc() of its own, which the address
+# Every call of whole flows fails once. The program brings a malloc() of its own, which the address
 # sanitizer does not allow.
 if(NOT TAVIK_SANITIZE)
   file(GLOB torture_sources CONFIGURE_DEPENDS torture/*.cpp)

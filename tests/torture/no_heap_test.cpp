@@ -6,7 +6,7 @@
 #include "support/input_file.h"
 #include "support/temp_dir.h"
 #include "tavik.h"
-#include "torture/heap_boundary.h"
+#include "torture/faults.h"
 
 namespace {
 

@@ -1,0 +1,27 @@
+// What a page does in one go, for the loops that let each of its calls fail.
+#pragma once
+
+#include <span>
+
+#include "support/temp_dir.h"
+
+namespace test {
+
+// The patterns, POSIX extended ones, are of all that the flow prints and of the files that differ
+// from put_files() afterwards, each as " path[bytes]", or " path[-]" if it is gone.
+struct Flow {
+  const char* name;
+  void (*run)(const char* dir);
+  const char* whole;           // undisturbed
+  const char* no_memory;       // with allocations that failed; null if there are none
+  const char* no_io;           // with other calls that failed; null for the same
+  const char* type = nullptr;  // a POST's content type and body
+  const char* body = "";
+};
+
+std::span<const Flow> flows();
+
+// The files that every flow starts from.
+void put_files(const TempDir& dir);
+
+}  // namespace test
