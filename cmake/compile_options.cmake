@@ -1,6 +1,7 @@
 # Compiler settings shared by the library, the page programs and the tests.
 
 option(TAVIK_SANITIZE "Build with the address and undefined-behaviour sanitizers" OFF)
+option(TAVIK_FUZZ "Build the harnesses of fuzz/ as fuzzers, which takes clang" OFF)
 
 set(CMAKE_C_STANDARD 11)
 set(CMAKE_CXX_STANDARD 20)
@@ -14,7 +15,12 @@ target_compile_options(tavik_warnings INTERFACE
   $<$<COMPILE_LANGUAGE:C>:-Wstrict-prototypes -Wmissing-prototypes>
   $<$<COMPILE_LANGUAGE:CXX>:-Wold-style-cast -Wzero-as-null-pointer-constant -Wextra-semi>)
 
-if(TAVIK_SANITIZE)
+if(TAVIK_FUZZ)
+  # No warnings: those of the code are gcc's, in every other build.
+  add_compile_options(-w -O1 -g -fsanitize=fuzzer-no-link,address,undefined
+    -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+elseif(TAVIK_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all
     -fno-omit-frame-pointer)
   add_link_options(-fsanitize=address,undefined)
