@@ -140,7 +140,8 @@ void page_begin_scripted(const char* page, const char* title, const char* script
       "<!DOCTYPE html>\r\n",
       "<html lang=\"en\">\r\n",
       "<meta charset=\"utf-8\">\r\n"
-      "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\r\n");
+      "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\r\n"
+      "<link rel=\"icon\" href=\"/ports.svg\">\r\n");
   print_head_css(PAGE_ASSETS "/style.css", NULL);
   print_head_script(SCRIPT_OPEN | SCRIPT_CLOSE | SCRIPT_FILE, PAGE_ASSETS "/clock.js");
   print_head_script(SCRIPT_OPEN | SCRIPT_CLOSE | SCRIPT_FILE, script);

@@ -14,11 +14,14 @@ need() {
       *) command -v "${pair%%=*}" >/dev/null || missing+=("${pair#*=}") ;;
     esac
   done
-  [ "${#missing[@]}" -eq 0 ] && return
-  echo "Installing with apt: ${missing[*]}"
+  [ "${#missing[@]}" -eq 0 ] || install_packages "${missing[@]}"
+}
+
+install_packages() {
+  echo "Installing with apt: $*"
   as_root apt-get update -q >/dev/null
   as_root env DEBIAN_FRONTEND=noninteractive \
-    apt-get install -y -q --no-install-recommends "${missing[@]}" >/dev/null
+    apt-get install -y -q --no-install-recommends "$@" >/dev/null
 }
 
 need_build_tools() {
@@ -43,4 +46,19 @@ install_e2e_packages() {
   echo "Installing the end-to-end tests' npm packages"
   npm ci --prefix tests/e2e --no-audit --no-fund --loglevel=error >/dev/null
   cp tests/e2e/package-lock.json tests/e2e/node_modules/.installed-lock
+}
+
+# The web server lighttpd, unpacked but not installed: its package would start a server that listens
+# on every address. The result is in build/tools/lighttpd.
+unpack_lighttpd() {
+  local folder=build/tools/lighttpd
+  if [ ! -x "$folder/usr/sbin/lighttpd" ]; then
+    echo "Fetching lighttpd into $folder"
+    mkdir -p "$folder"
+    apt-cache show lighttpd >/dev/null 2>&1 || as_root apt-get update -q >/dev/null
+    (cd "$folder" && apt-get download -q lighttpd >/dev/null 2>&1 && dpkg -x lighttpd_*.deb .)
+  fi
+  if ldd "$folder/usr/sbin/lighttpd" | grep -q 'not found'; then
+    install_packages libnettle8 libpcre2-8-0 libxxhash0
+  fi
 }
