@@ -12,20 +12,16 @@ int32_t update_password_item(const char* directory, const char* name, const char
   char* const password = TAVIK_STACK_BUFFER(size + 1);
   CleanText clean(password, size, filter);
   uint32_t decoded = 0;
-  uint32_t bullets = 0;
   uint32_t rejected = 0;
   while (*text != '\0' && clean.characters() < maximum) {
     const uint32_t character = utf8_to_ucs2(&text, UINT32_MAX);
     if (character == 0) continue;
     ++decoded;
-    if (character == tavik::kBullet) {
-      ++bullets;
-    } else if (clean.add(character) == CleanText::Outcome::kRefused) {
-      ++rejected;
-    }
+    if (character == tavik::kBullet) continue;
+    if (clean.add(character) == CleanText::Outcome::kRefused) ++rejected;
   }
   clean.terminate();
-  if (rejected_count != nullptr) *rejected_count = decoded == bullets ? 0 : rejected;
+  if (rejected_count != nullptr) *rejected_count = rejected;
   if (decoded != clean.characters()) return 0;
   return update_item(directory, name, password, tavik::byte_size(maximum));
 }

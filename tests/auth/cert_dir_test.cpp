@@ -48,7 +48,10 @@ TEST(CertDir, ShowsAndDeletesFilesWithTheirLinks) {
     EXPECT_EQ(shown_by(list, 1), a + " 91705\n" + ca + " 90005\n" + empty);
     EXPECT_EQ(shown_by(list, 6), a + " 81702" + key + "a.b.key -noout\"\n 91705\n" + ca + " 80002" +
                                      key + "ca.key -noout\"\n 90005\n" + empty);
-    if (directory == certs.c_str()) cert_dir_free(&list);
+    if (directory == slash) break;
+    delete_certificate(&list, 0);
+    EXPECT_EQ(list.count, 4) << "nothing is put between directory and name";
+    cert_dir_free(&list);
   }
   for (const int32_t position : {-1, 4, 2}) {  // 2 is the subdirectory
     delete_certificate(&list, position);

@@ -78,9 +78,9 @@ TEST(Passwords, SaltComesFromSeedProcessAndTime) {
 
 TEST(Passwords, ChecksNewEntries) {
   const std::pair<const char*, int32_t> cases[] = {
-      {"", 0},           {"abc", 6},        {"azAZ", 3},         {"azAZ09#+", 3},
-      {":;@abcdef", 6},  {":;@abcdef!", 7}, {"abcd\xC3\xA4", 7}, {"pass\xFFword!", 3},
-      {"pas\xFFword", 6}};
+      {"", 0},          {"abc", 6},           {"azAZ", 3},         {"09#+,-./", 3},
+      {":;@abcdef", 6}, {":;@abcdef!", 7},    {"abcd\xC3\xA4", 7}, {"abcd\xE4\x80\xA3", 7},
+      {"\xFFpass", 0},  {"pass\xFFword!", 3}, {"pas\xFFword", 6}};
   for (const auto& [text, status] : cases) {
     const char* accepted = nullptr;
     EXPECT_EQ(chk_new_passwd(text, &accepted, 4, 8), status) << text;

@@ -15,16 +15,16 @@ TEST(SelectboxCerts, OffersFilesAndTheNoneOption) {
   const test::TempDir dir;
   const std::string certs = dir.path("certs"), empty = dir.path("empty"), gone = dir.path("gone");
   for (const std::string& folder : {certs, empty}) mkdir(folder.c_str(), 0777);
-  for (const char* name : {"certs/b&", "certs/a.pem", "certs/.hidden"}) dir.put(name, "");
+  for (const char* name : {"certs/b&", "certs/c.pem", "certs/.hidden"}) dir.put(name, "");
   const std::string open = "<select name=\"c\" id=\"<\">\r\n", close = "</select>",
-                    a = "<option value=\"YS5wZW0=\">a.pem</option>\r\n",
+                    c = "<option value=\"Yy5wZW0=\">c.pem</option>\r\n",
                     b = "<option value=\"YiY=\">b&amp;</option>\r\n",
                     chosen_b = "<option value=\"YiY=\" selected>b&amp;</option>\r\n",
                     none = "<option value=\"\">&lt;none&gt;</option>\r\n",
                     chosen_none = "<option value=\"\" selected>&lt;none&gt;</option>\r\n";
-  const std::string kept = open + a + chosen_b + none + close;
-  const std::string nothing = open + a + b + chosen_none + close;
-  EXPECT_EQ(printed_for(certs, "b&", 0), open + a + chosen_b + close);
+  const std::string kept = open + chosen_b + c + none + close;
+  const std::string nothing = open + b + c + chosen_none + close;
+  EXPECT_EQ(printed_for(certs, "b&", 0), open + chosen_b + c + close);
   EXPECT_EQ(printed_for(certs, "b&", PF_KEEP_NONE_OPTION), kept);
   EXPECT_EQ(printed_for(certs, ".hidden", PF_KEEP_NONE_OPTION), nothing);
   EXPECT_EQ(printed_for(empty, "b&", 0), open + chosen_none + close);

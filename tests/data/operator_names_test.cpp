@@ -14,7 +14,7 @@ TEST(OperatorNames, TakesWellFormedLinesAndAppends) {
           "\"26202\", \"blank\"\n"
           " \"26202\",\"blank\"\n"
           "+COPN: \"26202\",\"prefix\"\n"
-          "\"\",\"empty\"\n\"26202\",\"\"\n\"26202\"\n\"26202\",\n\n,\"x\"\n"
+          "\"\",\"empty\"\n\"26202\",\"\"\n\"26202\"\n\"26202\",\n\n,\"x\"\n\"26202\";\"x\"\n"
           "\"26202,\"open\"\n"
           "\"1234567\",\"ABCDEFGHIJKLMNOPQRSTUVWXYZ-\",\"more\"\n"
           "\"a,b\",\"long\tcut\n"

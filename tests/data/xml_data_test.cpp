@@ -78,6 +78,7 @@ TEST_F(XmlData, TakesAFileWithoutItsLastLineFeed) {
     int32_t result, error;
   } cases[] = {
       {"", "", 0, 0},
+      {"\n", "", 0, 0},
       {"a\x01\xFF<\n", "a\x01\xFF&lt;", 4, 0},
       {"a\n\n", "a&#10;", 2, 0},
       {"a&#10;", "a&amp;#10;", 6, 0},
@@ -95,8 +96,9 @@ TEST_F(XmlData, TakesAFileWithoutItsLastLineFeed) {
     EXPECT_EQ(text(), c.text);
   }
   doc_.length = 0;
-  xml_data_txt(&doc_, "a<b", 2);
-  EXPECT_EQ(text(), "a&lt;");
+  xml_data_txt(&doc_, "<\nb", 2);
+  EXPECT_EQ(xml_data_txt_fd(&doc_, memfd_create("empty", 0)), 0);
+  EXPECT_EQ(text(), "&lt;&#10;") << "the line feed is not the file's";
 }
 
 }  // namespace

@@ -86,6 +86,7 @@ TEST(XTable, StaysAsItIsWhereItCannotBeSorted) {
   xtable table{};
   const Model model{xtable_new_row(&table, sizeof(Row)), xtable_new_row(&table, sizeof(Row))};
   key(model[0]) = 1;
+  EXPECT_EQ(xtable_new_row(&table, sizeof(xtable_row) - 1), nullptr);
   EXPECT_EQ(xtable_sort(&table, 0, compare_keys), 1U);
   EXPECT_EQ(xtable_sort(&table, sizeof(Row), compare_keys), 1U);
   EXPECT_EQ(xtable_sort(&table, kWidth, nullptr), 1U);

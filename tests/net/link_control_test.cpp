@@ -42,7 +42,7 @@ TEST(LinkControl, TellsTheLinkFromTheStatusRegister) {
     int32_t result;
   } cases[] = {{"eth0", 3, 0x002C, 1},       {"eth0", 3, 0x003C, 0}, {"eth0", 3, 0x0006, 0},
                {"eth0", 3, 0x7829, 0},       {"eth0", 3, 0xFFED, 1}, {"eth0", 3, 0x0000, 0},
-               {"eth0", 0x10003, 0x0004, 1}, {"eth0", 4, 4, -1},     {"eth1", 3, 4, -1},
+               {"eth0", 0x10003, 0x0004, 1}, {"eth0", 0x103, 4, -1}, {"eth1", 3, 4, -1},
                {"eth0", UINT32_MAX, 4, -1},  {nullptr, 3, 4, -1}};
   for (const auto& c : cases) {
     Phy phy{{0xFFFF, c.status}, 1};
