@@ -22,12 +22,13 @@ target_precompile_headers(test_options INTERFACE
 # The unit suite: one program, so that it can be run whole under valgrind.
 file(GLOB unit_sources CONFIGURE_DEPENDS
   support/*.cpp request/*_test.cpp output/*_test.cpp items/*_test.cpp fields/*_test.cpp
-  auth/*_test.cpp net/*_test.cpp shell/*_test.cpp data/*_test.cpp)
+  auth/*_test.cpp net/*_test.cpp shell/*_test.cpp data/*_test.cpp docs/*_test.cpp)
 add_executable(unit ${unit_sources})
-add_dependencies(unit ${pages_targets})
+add_dependencies(unit ${pages_targets} ${guide_targets})
 list(JOIN CMAKE_CROSSCOMPILING_EMULATOR " " emulator)
 target_compile_definitions(unit PRIVATE
-  TEST_PAGES="${CMAKE_CURRENT_BINARY_DIR}/pages" TEST_EMULATOR="${emulator}")
+  TEST_PAGES="${CMAKE_CURRENT_BINARY_DIR}/pages" TEST_EMULATOR="${emulator}"
+  TEST_GUIDE="${guide}")
 target_link_libraries(unit PRIVATE test_options tavik::harness)
 gtest_discover_tests(unit DISCOVERY_MODE PRE_TEST)
 
@@ -38,4 +39,11 @@ if(NOT TAVIK_SANITIZE)
   add_executable(torture support/main.cpp support/scripted_ioctl.cpp ${torture_sources})
   target_link_libraries(torture PRIVATE test_options)
   gtest_discover_tests(torture DISCOVERY_MODE PRE_TEST)
+endif()
+
+# The test of a page that the guide shows.
+add_executable(guide_host_test ${CMAKE_CURRENT_BINARY_DIR}/guide/host_test.cpp)
+target_link_libraries(guide_host_test PRIVATE tavik::harness tavik::tavik)
+if(NOT CMAKE_CROSSCOMPILING)
+  add_test(NAME docs.guide_host_test COMMAND guide_host_test $<TARGET_FILE:guide_host>)
 endif()
