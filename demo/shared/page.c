@@ -17,6 +17,7 @@ static const struct {
     {"mobile", "Mobile"},
     {"vpn", "VPN"},
     {"schedule", "Schedule"},
+    {"administration", "Administration"},
     {"notes", "Notes"},
 };
 /* clang-format on */

@@ -9,8 +9,10 @@ const board = new Board('build/board-test');
 before(() => board.boot());
 after(() => board.stop());
 
-const page = (name, options) => fetch(`${board.url}/cgi-bin/${name}`,
-  { signal: AbortSignal.timeout(30000), ...options });
+const page = (name, options) => fetch(`${board.url}/cgi-bin/${name}`, {
+  signal: AbortSignal.timeout(30000), ...options,
+  headers: { Authorization: `Basic ${btoa('admin:first-login')}`, ...options?.headers },
+});
 const post = (name, fields) => page(name, {
   method: 'POST',
   headers: { 'Content-Type': 'application/x-www-form-urlencoded' },

@@ -5,7 +5,7 @@ import net from 'node:net';
 import os from 'node:os';
 import path from 'node:path';
 
-const demo = process.env.TAVIK_DEMO ?? path.resolve('../../build/release/demo');
+export const demo = path.resolve(process.env.TAVIK_DEMO ?? '../../build/release/demo');
 
 export function freePort() {
   return new Promise((resolve, reject) => {
@@ -38,16 +38,21 @@ async function untilItAnswers(port, server) {
 export async function startDevice() {
   const folder = fs.mkdtempSync(path.join(os.tmpdir(), 'tavik-e2e-'));
   const state = path.join(folder, 'state');
-  execFileSync(path.join(demo, 'setup'), [state]);
+  const told = execFileSync(path.join(demo, 'setup'), [state], { encoding: 'latin1' });
+  const [, username, password] = told.match(/^user (\S+), password (\S+)$/m);
   const port = await freePort();
   const server = spawn('busybox',
-    ['httpd', '-f', '-p', `127.0.0.1:${port}`, '-h', path.join(demo, 'www')],
+    ['httpd', '-f', '-c', path.join(state, 'httpd.conf'), '-p', `127.0.0.1:${port}`,
+      '-h', path.join(demo, 'www')],
     { env: { ...process.env, TAVIK_DEMO_STATE: state }, stdio: ['ignore', 'ignore', 'inherit'] });
+  fs.writeFileSync(path.join(state, 'serverpid'), `${server.pid}\n`);
   await untilItAnswers(port, server);
   return {
     port,
     url: `http://127.0.0.1:${port}`,
     state,
+    login: { username, password },
+    authorization: { Authorization: `Basic ${btoa(`${username}:${password}`)}` },
     item: (name) => fs.readFileSync(path.join(state, name), 'latin1'),
     changedAt: (name) => fs.statSync(path.join(state, name), { bigint: true }).mtimeNs,
     async stop() {
