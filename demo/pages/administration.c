@@ -66,10 +66,10 @@ static int32_t take(void* context, cgi_attr* attrs, int32_t count, int32_t kind)
 }
 
 static void print_field(const char* name, const char* label, const char* autocomplete) {
-  printf("<p class=\"field\"><label for=\"%s\">%s</label>\r\n", name, label);
+  page_label(name, label);
   gen_xtextbox(MOST_CHARACTERS, NULL, PF_PASSWORD,
                " id=\"%s\" name=\"%s\" autocomplete=\"%s\" required", name, name, autocomplete);
-  print_str("</p>\r\n");
+  page_field_end();
 }
 
 int main(void) {

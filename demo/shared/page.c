@@ -17,6 +17,8 @@ static const struct {
     {"mobile", "Mobile"},
     {"vpn", "VPN"},
     {"schedule", "Schedule"},
+    {"certificates", "Certificates"},
+    {"firmware", "Firmware"},
     {"administration", "Administration"},
     {"notes", "Notes"},
 };
