@@ -47,3 +47,8 @@ target_link_libraries(guide_host_test PRIVATE tavik::harness tavik::tavik)
 if(NOT CMAKE_CROSSCOMPILING)
   add_test(NAME docs.guide_host_test COMMAND guide_host_test $<TARGET_FILE:guide_host>)
 endif()
+
+# The same items under many processes at once.
+add_executable(load_items load/items.cpp)
+target_link_libraries(load_items PRIVATE test_options)
+add_test(NAME load.items COMMAND load_items)

@@ -3,7 +3,6 @@
 #include <cerrno>
 #include <cstdlib>
 
-#include "support/scripted_io.h"
 #include "support/temp_dir.h"
 #include "tavik.h"
 
@@ -60,8 +59,6 @@ TEST(TextareaFile, HandsOutAnEmptyTextWithoutAFile) {
   EXPECT_EQ(load(dir, "text", 0x55555556), "-1");
   EXPECT_EQ(load(dir, nullptr, 5), "-1");
   EXPECT_EQ(get_textarea_file(nullptr, dir.c_str(), "text", 5), -1);
-  const test::ScriptedIo io(test::next_descriptor(), {{0, 2}, {EIO}});
-  EXPECT_EQ(load(dir, "text", 5), "16:");
 }
 
 TEST(TextareaFile, StoresOnlyAChange) {
@@ -99,13 +96,6 @@ TEST(TextareaFile, TellsAFailureToStore) {
   EXPECT_EQ(update_textarea_file(dir.c_str(), "text", nullptr, 5), -1);
   EXPECT_EQ(update_textarea_file(dir.c_str(), "text", "a", 0x55555556), -2);
   EXPECT_EQ(dir.get("text"), "old");
-  {
-    const test::ScriptedIo io(test::next_descriptor(), {{0, 3}, {}, {0, 1}, {ENOSPC}});
-    EXPECT_EQ(update_textarea_file(dir.c_str(), "text", "new", 5), -1);
-  }
-  EXPECT_EQ(dir.get("text"), "n");
-  const test::ScriptedIo io(test::next_descriptor(), {{0, 1}, {EIO}});
-  EXPECT_EQ(update_textarea_file(dir.c_str(), "text", "n", 5), 2) << "unreadable reads as empty";
 }
 
 }  // namespace

@@ -4,7 +4,6 @@
 #include <cerrno>
 
 #include "support/capture.h"
-#include "support/scripted_io.h"
 #include "support/temp_dir.h"
 #include "tavik.h"
 
@@ -123,13 +122,6 @@ TEST(TextBox, ShowsItems) {
               EXPECT_EQ(page - 1, gen_text_item(dir.c_str(), "page"));
               EXPECT_EQ(-1, gen_text_item(dir.c_str(), "none"));
             }));
-  // A read that breaks off behind its first bytes.
-  const int next = dup(STDIN_FILENO);
-  close(next);
-  const test::ScriptedIo io(next, {{0, 2}, {EIO}});
-  char buffer[8] = "#######";
-  EXPECT_EQ(PF_DISABLED, rd_textbox_item(dir.c_str(), "long", buffer, 7, 7, 0));
-  EXPECT_STREQ("", buffer);
 }
 
 void expect_stored(const std::string& text, uint32_t maximum, textbox_filter filter, int32_t result,

@@ -3,7 +3,6 @@
 
 #include <cerrno>
 
-#include "support/scripted_io.h"
 #include "support/temp_dir.h"
 #include "tavik.h"
 
@@ -99,23 +98,6 @@ TEST(UpdateItem, FailuresCreateNothing) {
   EXPECT_EQ(compare_item(dir.c_str(), nullptr, "v", 1), -1);
   EXPECT_EQ(dir.get("missing"), std::nullopt);
   EXPECT_EQ(update_item(dir.c_str(), "", "v", 1), -1) << "the read of a directory fails";
-}
-
-TEST(UpdateItem, AFailedTransferIsTold) {
-  const TempDir dir;
-  dir.put("item", "old\n");
-  {
-    const test::ScriptedIo io(test::next_descriptor(), {{EIO}});
-    EXPECT_EQ(update_item(dir.c_str(), "item", "value", 10), -1);
-  }
-  EXPECT_EQ(dir.get("item"), "old\n") << "unreadable, so unchanged";
-  {
-    // Two reads of the stored text, then the write.
-    const test::ScriptedIo io(test::next_descriptor(), {{0, 4}, {0, 0}, {0, 2}, {ENOSPC}});
-    EXPECT_EQ(update_item(dir.c_str(), "item", "value", 10), -1);
-    EXPECT_EQ(errno, ENOSPC);
-  }
-  EXPECT_EQ(dir.get("item"), "va") << "the old text is gone";
 }
 
 TEST(WriteItem, WritesWithoutComparing) {

@@ -159,12 +159,4 @@ TEST(ScanBoundary, ReadsOncePerBoundaryLength) {
   EXPECT_LE(counting.calls(), 1005);
 }
 
-TEST(ScanBoundary, TakesAReadErrorAsTheEnd) {
-  const test::InputFile file("abcdefghijkl");
-  const test::ScriptedIo failing(file.fd(), {{0, 9}, {EIO, 0}});
-  Scan scan;
-  EXPECT_EQ(scan_boundary(file.fd(), "12345", kEnd, collect, &scan), 2);
-  EXPECT_EQ(scan.delivered, "abcdef");
-}
-
 }  // namespace

@@ -27,7 +27,6 @@ struct State {
 
 State own;
 State* state = &own;
-size_t allocation_count = 0;
 
 template <typename Result, typename... Arguments>
 Result real(const char* name, Arguments... arguments) {
@@ -53,7 +52,6 @@ void* grant(void* block) {
 }
 
 bool out_of_memory() {
-  ++allocation_count;
   return test::struck({ENOMEM});
 }
 
@@ -179,10 +177,6 @@ Damage run_under(const Fault& fault, const std::function<void()>& setup,
   const std::string end = answer.status > 1 ? " status " + std::to_string(answer.status) : "";
   return {answer.output + end, shared->injected, returned ? shared->blocks : 0,
           returned ? shared->descriptors : 0};
-}
-
-size_t allocations() {
-  return allocation_count;
 }
 
 }  // namespace test

@@ -2,7 +2,6 @@
 // calls for files and commands. They count, and the one that a fault names fails.
 #pragma once
 
-#include <cstddef>
 #include <functional>
 #include <initializer_list>
 #include <string>
@@ -31,8 +30,5 @@ Damage run_under(const Fault& fault, const std::function<void()>& setup,
 
 // Whether the call that asks is to fail: it could with any of these. errno is set.
 bool struck(std::initializer_list<int> errors);
-
-// Allocations, and reallocations, so far in this process.
-size_t allocations();
 
 }  // namespace test

@@ -13,7 +13,7 @@ struct Flow {
   const char* name;
   void (*run)(const char* dir);
   const char* whole;           // undisturbed
-  const char* no_memory;       // with allocations that failed; null if there are none
+  const char* no_memory;       // with allocations that failed; null where none may be made
   const char* no_io;           // with other calls that failed; null for the same
   const char* type = nullptr;  // a POST's content type and body
   const char* body = "";

@@ -68,6 +68,7 @@ long torture(const test::Flow& flow, int error, bool for_good) {
     EXPECT_THAT(damage.told, testing::MatchesRegex(told));
     EXPECT_EQ(damage.blocks, 0);
     EXPECT_EQ(damage.descriptors, 0);
+    EXPECT_TRUE(error != ENOMEM || pattern != nullptr || damage.injected == 0) << "uses the heap";
     injected += damage.injected;
     if (damage.injected == 0) return injected;
   }
