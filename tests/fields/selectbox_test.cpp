@@ -140,10 +140,8 @@ TEST(SelectboxText, ReadsNoMoreThanTheLongestRow) {
     EXPECT_EQ(state.flags, flags);
     EXPECT_EQ(state.value.text, expected);
   }
-  const int next = dup(0);
-  close(next);
   dir.put("i", std::string("c\0\0", 3));
-  const test::ScriptedIo half_way(next, {{0, 2}, {EIO}});
+  const test::ScriptedIo half_way(test::next_descriptor(), {{0, 2}, {EIO}});
   select_state state = text_state(0, "");
   rd_selectbox_text_item(dir.c_str(), "i", &state, row_at, 5, "d");
   EXPECT_TRUE(state.flags == PF_DISABLED && state.value.text == std::string("d"));

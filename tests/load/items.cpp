@@ -11,6 +11,7 @@
 #include <cstring>
 #include <ctime>
 
+#include "support/next_descriptor.h"
 #include "support/temp_dir.h"
 #include "tavik.h"
 
@@ -44,14 +45,8 @@ bool read_back(const char* dir, int item) {
          number / 1000 % 100 < kSavers;
 }
 
-int next_descriptor() {
-  const int fd = dup(STDIN_FILENO);
-  close(fd);
-  return fd;
-}
-
 int work(const char* dir, int process, time_t end) {
-  const int before = next_descriptor();
+  const int before = test::next_descriptor();
   for (int round = 0; round < kMostRounds && time(nullptr) < end; ++round) {
     for (int item = 0; item < kItems; ++item) {
       if (process < kSavers ? save(dir, process, round, item) : read_back(dir, item)) continue;
@@ -59,7 +54,7 @@ int work(const char* dir, int process, time_t end) {
       return 1;
     }
   }
-  return next_descriptor() == before ? 0 : 1;
+  return test::next_descriptor() == before ? 0 : 1;
 }
 
 }  // namespace

@@ -146,8 +146,7 @@ TEST(Interfaces, Ipv6ScansWholeLinesOfTheFirst4095Bytes) {
       {full + eth, 75, 75},
       {"\n" + full, 74, 74},
   };
-  const int next_fd = dup(STDIN_FILENO);
-  close(next_fd);
+  const int next_fd = test::next_descriptor();
   for (const auto& c : cases) {
     const auto length = static_cast<ssize_t>(c.text.size());
     for (const char* name : {"eth0", static_cast<const char*>(nullptr)}) {

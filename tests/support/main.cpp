@@ -1,23 +1,16 @@
-// The test runner: every test must leave as many descriptors open as it found.
-#include <dirent.h>
+// The test runner: every test must leave the descriptors open that it found.
 #include <gtest/gtest.h>
 
 #include <csignal>
 
+#include "support/next_descriptor.h"
+
 namespace {
 
-int open_descriptors() {
-  int count = 0;
-  DIR* const dir = opendir("/proc/self/fd");
-  while (readdir(dir) != nullptr) ++count;
-  closedir(dir);
-  return count;
-}
-
 class DescriptorCheck : public testing::EmptyTestEventListener {
-  void OnTestStart(const testing::TestInfo&) override { before_ = open_descriptors(); }
+  void OnTestStart(const testing::TestInfo&) override { before_ = test::next_descriptor(); }
   void OnTestEnd(const testing::TestInfo&) override {
-    EXPECT_EQ(before_, open_descriptors()) << "a descriptor was left open, or closed twice";
+    EXPECT_EQ(before_, test::next_descriptor()) << "a descriptor was left open, or closed twice";
   }
   int before_ = 0;
 };

@@ -61,10 +61,4 @@ int ScriptedIo::calls() const {
   return static_cast<int>(script.calls);
 }
 
-int next_descriptor() {
-  const int fd = dup(STDIN_FILENO);
-  close(fd);
-  return fd;
-}
-
 }  // namespace test

@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "support/next_descriptor.h"
+
 namespace test {
 
 struct Answer {
@@ -26,8 +28,5 @@ class ScriptedIo {
 
   int calls() const;
 };
-
-// The descriptor that the next open() will give.
-int next_descriptor();
 
 }  // namespace test

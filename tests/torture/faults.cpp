@@ -15,6 +15,7 @@
 #include <cstdlib>
 
 #include "support/child.h"
+#include "support/next_descriptor.h"
 
 namespace {
 
@@ -22,7 +23,6 @@ struct State {
   test::Fault fault;
   bool armed;
   long calls, injected, blocks;
-  int descriptors;
 };
 
 State own;
@@ -57,12 +57,6 @@ bool out_of_memory() {
 
 size_t cut(size_t count) {
   return count > 1 && test::struck({test::kShort}) ? count / 2 : count;
-}
-
-int next_descriptor() {
-  const int fd = dup(STDIN_FILENO);
-  real<int>("close", fd);
-  return fd;
 }
 
 }  // namespace
@@ -160,7 +154,7 @@ Damage run_under(const Fault& fault, const std::function<void()>& setup,
                  const std::function<void()>& body) {
   static auto* const shared = static_cast<State*>(
       mmap(nullptr, sizeof(State), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0));
-  *shared = {fault, false, 0, 0, 0, 0};
+  *shared = {fault, false, 0, 0, 0};
   const ChildAnswer answer = in_child([&] {
     mallopt(M_PERTURB, 0xA5);  // what is freed or fresh reads as garbage
     setup();
@@ -169,14 +163,12 @@ Damage run_under(const Fault& fault, const std::function<void()>& setup,
     state->armed = true;
     body();
     state->armed = false;
-    state->descriptors = next_descriptor() - before;
-    state->calls = -1;  // the body returned
+    if (next_descriptor() != before) printf(" descriptors left");
+    if (state->blocks != 0) printf(" %ld blocks left", state->blocks);
     return 0;
   });
-  const bool returned = shared->calls == -1;
   const std::string end = answer.status > 1 ? " status " + std::to_string(answer.status) : "";
-  return {answer.output + end, shared->injected, returned ? shared->blocks : 0,
-          returned ? shared->descriptors : 0};
+  return {answer.output + end, shared->injected};
 }
 
 }  // namespace test

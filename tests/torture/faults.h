@@ -18,10 +18,8 @@ struct Fault {
 };
 
 struct Damage {
-  std::string told;  // what the body printed, and the number of the signal that ended it
+  std::string told;  // what the body printed; then, if so, that a signal ended it or what it left
   long injected;     // calls that failed
-  long blocks;       // of the heap that the body left, descriptors likewise; 0 after exit()
-  int descriptors;
 };
 
 // Runs the body in a child process under the fault; setup is spared it.

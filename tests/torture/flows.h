@@ -1,14 +1,14 @@
 // What a page does in one go, for the loops that let each of its calls fail.
 #pragma once
 
+#include <map>
 #include <span>
-
-#include "support/temp_dir.h"
+#include <string>
 
 namespace test {
 
 // The patterns, POSIX extended ones, are of all that the flow prints and of the files that differ
-// from put_files() afterwards, each as " path[bytes]", or " path[-]" if it is gone.
+// from first_files() afterwards, each as " path[bytes]", or " path[-]" if it is gone.
 struct Flow {
   const char* name;
   void (*run)(const char* dir);
@@ -21,7 +21,7 @@ struct Flow {
 
 std::span<const Flow> flows();
 
-// The files that every flow starts from.
-void put_files(const TempDir& dir);
+// The files that every flow starts from, by their names.
+std::map<std::string, std::string> first_files();
 
 }  // namespace test
