@@ -9,7 +9,7 @@ import path from 'node:path';
 import { after, before, beforeEach, test } from 'node:test';
 import { openBrowser } from './lib/browser.mjs';
 import { closing, contentType, multipart, opening } from './lib/multipart.mjs';
-import { demo, exchange, startDevice } from './lib/server.mjs';
+import { demo, exchange, startDevice, streamsBodies } from './lib/server.mjs';
 
 let device;
 let browser;
@@ -75,7 +75,7 @@ for (const javaScriptEnabled of [true, false]) {
   });
 }
 
-test('the bar shows how far an upload is, and one that is cancelled leaves nothing', async () => {
+test('the bar shows how far an upload is, and one that is cancelled leaves nothing', streamsBodies, async () => {
   const tab = await browser.newPage({ httpCredentials: device.login });
   await tab.goto(page);
   const network = await tab.context().newCDPSession(tab);
@@ -100,7 +100,7 @@ test("curl's file comes as it is", async () => {
   assert.ok(stored().equals(nasty));
 });
 
-test('of an upload whose connection is cut nothing is left, and its page ends', async () => {
+test('of an upload whose connection is cut nothing is left, and its page ends', streamsBodies, async () => {
   const socket = net.connect(device.port, '127.0.0.1');
   socket.write(Buffer.concat([head(1 << 30), opening('image', 'x'), nasty]));
   await until(() => left().some((name) => size(name) > 1 << 20));
@@ -110,7 +110,7 @@ test('of an upload whose connection is cut nothing is left, and its page ends', 
   await until(() => /The upload broke off\.[^\n]*\n$/.test(device.item('log')));
 });
 
-test('a body that ends early is told, wherever it ends', async () => {
+test('a body that ends early is told, wherever it ends', streamsBodies, async () => {
   const whole = body(nasty.subarray(0, 5000));
   const ends = [opening('image', 'x').length, 3000, whole.length - closing.length, whole.length - 3];
   for (const end of ends) {
@@ -124,7 +124,7 @@ test('a body that ends early is told, wherever it ends', async () => {
   assert.deepEqual(left(), []);
 });
 
-test('a newer upload wins over one that hangs', async () => {
+test('a newer upload wins over one that hangs', streamsBodies, async () => {
   const socket = net.connect(device.port, '127.0.0.1');
   socket.write(Buffer.concat([head(1 << 30), opening('image', 'x'), nasty]));
   await until(() => left().length === 1);

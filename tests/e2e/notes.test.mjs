@@ -1,7 +1,7 @@
 // "Notes on this device", posted to directly.
 import assert from 'node:assert/strict';
 import { after, before, beforeEach, test } from 'node:test';
-import { exchange, startDevice } from './lib/server.mjs';
+import { exchange, startDevice, streamsBodies } from './lib/server.mjs';
 import { formValues, formTags } from './lib/html.mjs';
 
 let device;
@@ -79,12 +79,12 @@ const rawPost = (length, body) => exchange(device.port, Buffer.concat([
   Buffer.from('POST /cgi-bin/notes HTTP/1.0\r\nContent-Type: ' +
     `${type}\r\nContent-Length: ${length}\r\n\r\n`), Buffer.from(body, 'latin1')]));
 
-test('a body that ends early is taken as far as it came', async () => {
+test('a body that ends early is taken as far as it came', streamsBodies, async () => {
   assert.match(await rawPost(500, 'owner=short'), /^HTTP.* 303 See Other/);
   assert.equal(device.item('owner'), 'short\n');
 });
 
-test('a length beyond 31 bits does no harm', async () => {
+test('a length beyond 31 bits does no harm', streamsBodies, async () => {
   assert.match(await rawPost('2147483648', 'owner=x'), /^HTTP\/1\.[01] 400 /);
   assert.equal(device.item('owner'), 'o\n');
 });

@@ -35,15 +35,53 @@ async function untilItAnswers(port, server) {
   throw new Error('the server does not answer');
 }
 
+// Each server's command line, for a port and a folder with the device's state.
+const servers = {
+  busybox: ({ port, state }) => ['busybox', 'httpd', '-f', '-c', path.join(state, 'httpd.conf'),
+    '-p', `127.0.0.1:${port}`, '-h', path.join(demo, 'www')],
+  lighttpd({ port, state, folder }) {
+    const root = path.resolve(process.env.TAVIK_LIGHTTPD ?? '../../build/tools/lighttpd');
+    const configuration = path.join(folder, 'lighttpd.conf');
+    fs.writeFileSync(configuration, lighttpdConfiguration(port, state, folder));
+    return [`${root}/usr/sbin/lighttpd`, '-D', '-f', configuration, '-m', `${root}/usr/lib/lighttpd`];
+  },
+};
+const serverName = process.env.TAVIK_E2E_SERVER ?? 'busybox';
+
+// The options of a test that needs a page to run while its body is still on the way.
+export const streamsBodies = {
+  skip: serverName !== 'busybox' && 'this server starts a page when the whole body is there',
+};
+
+// The same pages behind the same login as in the state's own configuration, which is busybox's.
+function lighttpdConfiguration(port, state, folder) {
+  const lines = fs.readFileSync(path.join(state, 'httpd.conf'), 'latin1').split('\n')
+    .map((line) => line.match(/^(\/cgi-bin\/[^:]+):([^:]+):(.+)$/)).filter(Boolean);
+  const users = path.join(folder, 'users');
+  fs.writeFileSync(users, `${lines[0][2]}:${lines[0][3]}\n`);
+  const guarded = lines.map(([, page, user]) => `"${page}" => ("method" => "basic", ` +
+    `"realm" => "Demo device", "require" => "user=${user}")`);
+  return `server.bind = "127.0.0.1"
+server.port = ${port}
+server.document-root = "${path.join(demo, 'www')}"
+server.modules = ("mod_setenv", "mod_auth", "mod_authn_file", "mod_cgi")
+server.upload-dirs = ("${folder}")
+auth.backend = "htpasswd"
+auth.backend.htpasswd.userfile = "${users}"
+auth.require = (${guarded.join(', ')})
+$HTTP["url"] =~ "^/cgi-bin/" { cgi.assign = ("" => "") }
+setenv.add-environment = ("TAVIK_DEMO_STATE" => "${state}", "PATH" => "${process.env.PATH}")
+`;
+}
+
 export async function startDevice() {
   const folder = fs.mkdtempSync(path.join(os.tmpdir(), 'tavik-e2e-'));
   const state = path.join(folder, 'state');
   const told = execFileSync(path.join(demo, 'setup'), [state], { encoding: 'latin1' });
   const [, username, password] = told.match(/^user (\S+), password (\S+)$/m);
   const port = await freePort();
-  const server = spawn('busybox',
-    ['httpd', '-f', '-c', path.join(state, 'httpd.conf'), '-p', `127.0.0.1:${port}`,
-      '-h', path.join(demo, 'www')],
+  const [command, ...words] = servers[serverName]({ port, state, folder });
+  const server = spawn(command, words,
     { env: { ...process.env, TAVIK_DEMO_STATE: state }, stdio: ['ignore', 'ignore', 'inherit'] });
   fs.writeFileSync(path.join(state, 'serverpid'), `${server.pid}\n`);
   await untilItAnswers(port, server);
