@@ -15,23 +15,28 @@ copy_kernel_headers() {
   (cd "$cross_headers" && cp -r asm asm-generic drm linux misc mtd rdma scsi sound video xen "$1")
 }
 
+# With ABI version 0 the loader's link for older programs would point to itself.
+drop_loader_link() {
+  sed -i '/# link for backward compatibility/,+1d' "$1"
+}
+
 # ABI_VERSION=0 gives the classic names libc.so.0 and ld-uClibc.so.0.
 uclibc_make() {
   nice make -C "$build" ARCH=arm "CROSS_COMPILE=$cross" ABI_VERSION=0 "$@"
 }
 
+# Chained, since its caller looks at the result, and set -e then ends nothing here.
 build_uclibc() {
   local root=$1 build=$1/build
-  mkdir -p "$build"
-  tar xf "$uclibc_archive" -C "$build" --strip-components=1
-  # With ABI version 0 this link of the loader would point to itself.
-  sed -i '/# link for backward compatibility/,+1d' "$build/ldso/ldso/Makefile.in"
-  copy_kernel_headers "$root/usr/include"
-  { cat scripts/lib/uclibc/config; echo "KERNEL_HEADERS=\"$root/usr/include\""; } >"$build/.config"
-  { yes '' || true; } | uclibc_make oldconfig
-  uclibc_make -j2
-  uclibc_make "PREFIX=$root" install
-  rm -rf "$build"
+  mkdir -p "$build" &&
+    tar xf "$uclibc_archive" -C "$build" --strip-components=1 &&
+    drop_loader_link "$build/ldso/ldso/Makefile.in" &&
+    copy_kernel_headers "$root/usr/include" &&
+    cat scripts/lib/uclibc/config - <<<"KERNEL_HEADERS=\"$root/usr/include\"" >"$build/.config" &&
+    { yes '' || true; } | uclibc_make oldconfig &&
+    uclibc_make -j2 &&
+    uclibc_make "PREFIX=$root" install &&
+    rm -rf "$build"
 }
 
 # A compiler that finds uClibc's headers, start files and libraries from its own place, with more
