@@ -47,7 +47,8 @@ export class Board {
     this.ended = once(this.emulator, 'exit');
     process.once('exit', () => this.emulator.kill());
     this.console = linesOf(this.emulator.stdout);
-    await until(this.console, /^board: ready/, 180);
+    const { ahead } = await until(this.console, /^board: ready/, 180);
+    [, this.user, this.password] = ahead.join('\n').match(/^board: user (\S+), password (\S+)$/m);
     this.monitor = net.connect(monitor);
     this.answers = linesOf(this.monitor);
     await this.ask('qmp_capabilities');

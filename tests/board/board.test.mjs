@@ -1,29 +1,45 @@
 // The library and the demo device on the emulated board: the device's libc, flash and a PHY.
 import assert from 'node:assert/strict';
+import { createHash, randomBytes } from 'node:crypto';
 import fs from 'node:fs';
 import { after, before, test } from 'node:test';
 import { Board } from './board.mjs';
 import { formValues } from '../e2e/lib/html.mjs';
+import { contentType, multipart } from '../e2e/lib/multipart.mjs';
 
 const board = new Board('build/board-test');
 before(() => board.boot());
 after(() => board.stop());
 
-const page = (name, options) => fetch(`${board.url}/cgi-bin/${name}`, {
-  signal: AbortSignal.timeout(30000), ...options,
-  headers: { Authorization: `Basic ${btoa('admin:first-login')}`, ...options?.headers },
+const authorized = () => ({ Authorization: `Basic ${btoa(`${board.user}:${board.password}`)}` });
+const page = (name, options) => fetch(`${board.url}/cgi-bin/${name}`,
+  { signal: AbortSignal.timeout(60000), headers: authorized(), ...options });
+const send = (name, body, type) => page(name, {
+  method: 'POST', body, headers: { 'Content-Type': type, ...authorized() }, redirect: 'manual',
 });
-const post = (name, fields) => page(name, {
-  method: 'POST',
-  headers: { 'Content-Type': 'application/x-www-form-urlencoded' },
-  body: `${new URLSearchParams(fields)}`,
-});
+const post = (name, fields) => send(
+  name, `${new URLSearchParams(fields)}`, 'application/x-www-form-urlencoded');
 
 test('a form is saved and shown again', async () => {
   const fields = { owner: `<b>"it's"</b> äöü €`, place: 'a b', remark: '' };
-  assert.deepEqual(formValues(await (await post('notes', fields)).text()), fields);
+  await post('notes', fields);
   assert.deepEqual(formValues(await (await page('notes')).text()), fields);
   assert.equal(await board.run('cat /state/place'), 'a b');
+});
+
+test('a file comes as it is', async () => {
+  const content = Buffer.concat([randomBytes(300000), Buffer.from('\r\n--'.repeat(99))]);
+  assert.equal((await send('firmware', multipart('image', 'x', content), contentType)).status, 303);
+  assert.equal(await board.run('sha256sum /state/firmware/image | cut -c 1-64'),
+    createHash('sha256').update(content).digest('hex'));
+});
+
+test('a new password counts at once', async () => {
+  const words = { present: board.password, new: 'a-new:Word1', again: 'a-new:Word1' };
+  assert.equal((await post('administration', words)).status, 303);
+  assert.equal((await page('administration')).status, 401);
+  board.password = words.new;
+  assert.equal((await page('administration')).status, 200);
 });
 
 test('the interfaces are told, with their IPv6 addresses', async () => {
