@@ -37,18 +37,18 @@ make_device_tree() {
   done
 }
 
-# A boot environment of so many bytes: the CRC-32 of what follows, the entries, filler. gzip ends
+# A boot environment of so many bytes: the CRC-32 of what follows, the entries, and NULs. gzip ends
 # its output with that checksum, low byte first, and four more bytes.
-environment() (
-  set +o pipefail  # the filler is cut short
-  size=$1 body=$(mktemp)
+environment() {
+  local size=$1 body
   shift
-  { printf '%s\0' "$@" ''; head -c "$size" /dev/zero | tr '\0' '\377'; } |
-    head -c $((size - 4)) >"$body"
+  body=$(mktemp)
+  printf '%s\0' "$@" >"$body"
+  truncate -s $((size - 4)) "$body"
   gzip -c "$body" | tail -c 8 | head -c 4
   cat "$body"
   rm "$body"
-)
+}
 
 # The flash chip: every partition holds a good environment, but for the damaged one's first byte.
 make_flash() {
