@@ -94,6 +94,8 @@ TEST(TextBox, ScansSubmittedText) {
   EXPECT_EQ(-1, scan_textbox("b", 1, 0, nullptr, 1, nullptr));
   EXPECT_EQ(1, scan_textbox(text, 9, 0, text, 5, textbox_filter_alnum)) << "in its own place";
   EXPECT_STREQ("a12", text);
+  char grows[] = "\337\377\0behind it";  // two bytes, decoded leniently, that become three
+  EXPECT_EQ(0, scan_textbox(grows, 9, 0, grows, 12, nullptr)) << "no room in its own place";
 }
 
 void expect_shown(const test::TempDir& dir, const char* name, uint32_t flags, uint32_t returned,
