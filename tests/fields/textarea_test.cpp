@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <cerrno>
 #include <cstdlib>
 
 #include "support/temp_dir.h"
@@ -8,9 +7,7 @@
 
 namespace {
 
-#define EURO "\xE2\x82\xAC"
-
-std::string load(const test::TempDir& dir, const char* name, uint32_t maximum) {
+std::string load(const test::TempDir& dir, uint32_t maximum, const char* name = "text") {
   char* text = nullptr;
   const int32_t result = get_textarea_file(&text, dir.c_str(), name, maximum);
   const std::string shown = text == nullptr ? "" : std::string(":") + text;
@@ -19,78 +16,53 @@ std::string load(const test::TempDir& dir, const char* name, uint32_t maximum) {
 }
 
 TEST(TextareaToUnix, DropsEveryCr) {
-  const char* const cases[][2] = {{"a\r\nb\rc", "a\nbc"}, {"", ""}, {"\r\r", ""}, {"a\r", "a"}};
-  for (const auto& [text, expected] : cases) {
-    std::string in_place = text;
-    char other[16] = "###############";
-    textarea_to_unix(in_place.data(), in_place.data());
-    textarea_to_unix(other, text);
-    textarea_to_unix(other, nullptr);
-    EXPECT_STREQ(in_place.c_str(), expected);
-    EXPECT_STREQ(other, expected);
-  }
+  char text[] = "a\r\nb\r\rc\r", other[3] = "##";
+  textarea_to_unix(text, text);
+  EXPECT_STREQ(text, "a\nbc");
+  textarea_to_unix(other, nullptr);
+  EXPECT_STREQ(other, "##");
+  textarea_to_unix(other, "\r");
+  EXPECT_STREQ(other, "");
 }
 
 TEST(TextareaFile, LoadsUpToTheMaximumInCharacters) {
   const test::TempDir dir;
-  const struct {
-    std::string stored;
-    uint32_t maximum;
-    const char* expected;
-  } cases[] = {{"a\r\n\x7F\n", 9, "28:a\r\n\x7F\n"},
-               {EURO EURO EURO, 2, "7:" EURO EURO},
-               {"abc", 0, "1:"},
-               {"", 5, "16:"},
-               {{"ab\0cd", 5}, 9, "28:ab"},
-               {"a\xFFzz", 9, "28:a\xFF"},
-               {"abcdefg" EURO, 3, "10:abc"}};
-  for (const auto& c : cases) {
-    dir.put("text", c.stored);
-    EXPECT_EQ(load(dir, "text", c.maximum), c.expected);
-    EXPECT_EQ(dir.get("text"), c.stored);
+  const std::tuple<std::string, uint32_t, const char*> cases[] = {{"\r\n\x7F", 9, "28:\r\n\x7F"},
+                                                                  {"\u20AC\u20AC", 1, "4:\u20AC"},
+                                                                  {"abc", 0, "1:"},
+                                                                  {{"ab\0cd", 5}, 9, "28:ab"},
+                                                                  {"a\xFFzz", 9, "28:a\xFF"}};
+  for (const auto& [stored, maximum, expected] : cases) {
+    dir.put("text", stored);
+    EXPECT_EQ(load(dir, maximum), expected);
+    EXPECT_EQ(dir.get("text"), stored);
   }
-}
-
-TEST(TextareaFile, HandsOutAnEmptyTextWithoutAFile) {
-  const test::TempDir dir;
-  dir.put("text", "abc");
-  EXPECT_EQ(load(dir, "missing", 5), "0:");
-  EXPECT_EQ(load(dir, "text", INT32_MAX / 3 + 1), "-1") << "the size would pass 31 bits";
-  EXPECT_EQ(load(dir, "text", 0x55555556), "-1");
-  EXPECT_EQ(load(dir, nullptr, 5), "-1");
+  EXPECT_EQ(load(dir, 5, "missing"), "0:");
+  EXPECT_EQ(load(dir, INT32_MAX / 3 + 1), "-1") << "the size would pass 31 bits";
+  EXPECT_EQ(load(dir, 0x55555556) + load(dir, 5, nullptr), "-1-1");
   EXPECT_EQ(get_textarea_file(nullptr, dir.c_str(), "text", 5), -1);
 }
 
 TEST(TextareaFile, StoresOnlyAChange) {
   const test::TempDir dir;
-  const struct {
-    const char *stored, *text;
-    uint32_t maximum;
-    int32_t result;
-    const char* expected;
-  } cases[] = {{"a\nb\n", "a\nb\n", 9, 0, "a\nb\n"},
-               {"old", "a\r\nb", 9, 5, "a\r\nb"},
-               {"old", "", 9, 1, ""},
-               {"", "", 9, 0, ""},
-               {"abc", "ab", 9, 3, "ab"},
-               {"abc", "abcd", 3, 4, "abc"},
-               {"old", EURO EURO EURO, 2, 7, EURO EURO},
-               {"old", "a\xFFzz", 9, 3, "a\xFF"},
-               {"abcdefghi", "abcdef", 2, 0, "abcdefghi"},
-               {"abc", "abcd", 1, 2, "a"},
-               {"old", "new", 0, 1, ""}};
-  for (const auto& c : cases) {
-    dir.put("text", c.stored);
+  const char two[] = "\u20AC\u20AC";
+  const std::tuple<const char*, const char*, uint32_t, int32_t, std::string> cases[] = {
+      {"a\n", "a\n", 9, 0, "a\n"}, {"o", "\r\n", 9, 3, "\r\n"},  {"old", "", 9, 1, ""},
+      {"", "", 9, 0, ""},          {"abc", "ab", 9, 3, "ab"},    {"abc", "abcd", 3, 4, "abc"},
+      {"o", two, 1, 4, "\u20AC"},  {"o", "\xFFz", 9, 2, "\xFF"}, {"abcd", "abc", 1, 0, "abcd"}};
+  for (const auto& [stored, text, maximum, result, expected] : cases) {
+    dir.put("text", stored);
     dir.age("text");
-    EXPECT_EQ(update_textarea_file(dir.c_str(), "text", c.text, c.maximum), c.result) << c.text;
-    EXPECT_EQ(dir.get("text"), c.expected);
-    EXPECT_EQ(dir.touched("text"), c.result != 0) << c.text;
+    EXPECT_EQ(update_textarea_file(dir.c_str(), "text", text, maximum), result) << text;
+    EXPECT_EQ(dir.get("text"), expected);
+    EXPECT_EQ(dir.touched("text"), result != 0) << text;
   }
 }
 
 TEST(TextareaFile, TellsAFailureToStore) {
   const test::TempDir dir;
-  EXPECT_EQ(update_textarea_file(dir.c_str(), "text", "a", 5), -1);
+  EXPECT_EQ(update_textarea_file(dir.c_str(), "text", "", 5), -1);
+  EXPECT_EQ(update_textarea_file(dir.c_str(), ".", "a", 0), -1) << "open to read, but not to write";
   EXPECT_EQ(dir.get("text"), std::nullopt);
   dir.put("text", "old");
   EXPECT_EQ(update_textarea_file(dir.c_str(), "text", nullptr, 5), -1);

@@ -15,7 +15,7 @@ std::string table_of(uint32_t capacity, const char* list) {
   return text;
 }
 
-TEST(GenDowTable, FillsEntriesInTheListsOrder) {
+TEST(Weekdays, FillATableInTheListsOrder) {
   EXPECT_EQ(table_of(3, "1Mo\0006Sa\0000\0"), "1monMo 6satSa 0sun ");
   EXPECT_EQ(table_of(2, "2a\0003b\0004c\0"), "2tuea 3wedb -");
   EXPECT_EQ(table_of(2, "7x\0005a\0004b\0"), "-5fria -") << "a skipped entry counts";
@@ -24,9 +24,9 @@ TEST(GenDowTable, FillsEntriesInTheListsOrder) {
   gen_dow_table(nullptr, 8, "1a\0");
 }
 
-TEST(CronWeekdays, WritesTheDayField) {
+TEST(Weekdays, MakeTheDayFieldOfACronLine) {
   const std::pair<uint32_t, const char*> cases[] = {
-      {0x2A, "1,3,5"}, {0x7F, "*"}, {0xFF, "*"}, {0x80, ""}, {0, ""}, {0x7E, "1,2,3,4,5,6"}};
+      {0x2A, "1,3,5"}, {0x7F, "*"}, {0xFF, "*"}, {0x80, ""}, {0x3F, "0,1,2,3,4,5"}, {0x40, "6"}};
   for (const auto& [mask, expected] : cases) {
     char buffer[15] = "untouched";
     EXPECT_STREQ(cron_weekdays(buffer, 14, mask), "*");

@@ -31,7 +31,7 @@ TEST(HtmlPrintf, LimitsTextsAndRepeatsCharacters) {
   expect(1, " value=\"&#8226;&#8226;&#8226;\"", " value=\"%*c\"", 3, 0x2022);
   expect(1, "-B-CC", "%0c-%c-%02c", 'A', 'B', 'C');
   expect(1, "ABCDE,ABCDE,ABC,", "%.5s,%-5s,%#03s,", "ABCDEF", "ABCDEF", "ABCDEF");
-  expect(1, "abcdefghijklmnopqrstuvwxy", "%2.5s", "abcdefghijklmnopqrstuvwxyz");
+  expect(1, "abcdefghijklmnopqrs", "%1.9s", "abcdefghijklmnopqrstuvwxyz");
   // Digits behind a "*" go on from the digits in front of it; a negative "*" changes nothing.
   expect(1, "aaa,bbbbbbbbbb,cc,dd", "%9*c,%1*0c,%2*c,%*2c", 3, 'a', -1, 'b', -1, 'c', 9, 'd');
 }
@@ -47,11 +47,9 @@ TEST(HtmlPrintf, LeavesIntegersToTheCLibrary) {
 
 TEST(HtmlPrintf, SkipsWhatItDoesNotKnow) {
   expect(1, "100%", "100%%");
-  expect(1, "abc", "abc%");
-  expect(1, "", "%5");
+  expect(1, "abc", "abc%5");
   expect(1, "a%b", "a%5%b");
   expect(1, "", "%q ab");
-  expect(1, "a", "a%");
   expect(1, "x!", "%f ps!", "x");
   expect(1, "", "%s", static_cast<const char*>(nullptr));
   expect(1, "", "%c", 0);
