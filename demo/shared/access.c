@@ -7,7 +7,7 @@
 #include "shared/page.h"
 #include "shared/path.h"
 
-static const char* const guarded_pages[] = {"administration", "certificates", "firmware"};
+static const char* const guarded_pages[] = {"administration", "certificates", "firmware", "log"};
 
 void access_guard(void) {
   static const auth_pair users[] = {{ACCESS_USER, 1}, {NULL, 0}};

@@ -4,6 +4,8 @@
 #include <string.h>
 #include <time.h>
 
+#include "shared/device_log.h"
+
 /* One page a line. */
 /* clang-format off */
 static const struct {
@@ -19,6 +21,7 @@ static const struct {
     {"schedule", "Schedule"},
     {"certificates", "Certificates"},
     {"firmware", "Firmware"},
+    {"log", "Log"},
     {"administration", "Administration"},
     {"notes", "Notes"},
 };
@@ -80,6 +83,8 @@ void page_store_form(outcome* result, const cgi_attr* attrs, int32_t count, cons
 }
 
 void page_redirect(const char* page, const outcome* result) {
+  if (result->changed != 0) device_log("%s: settings stored", page);
+  if (result->failed != 0) device_log("%s: settings that could not be stored", page);
   printf("Status: 303 See Other\r\nLocation: %s?changed=%u&failed=%u\r\n\r\n", page,
          (unsigned)result->changed, (unsigned)result->failed);
 }

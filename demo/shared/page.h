@@ -56,7 +56,7 @@ void page_note(outcome* result, uint32_t index, int32_t stored);
 void page_store_form(outcome* result, const cgi_attr* attrs, int32_t count, const setting* settings,
                      uint32_t setting_count, int32_t (*store)(uint32_t index, const char* text));
 
-/* Answers a POST: the browser gets the page again, which tells the outcome. */
+/* Answers a POST: the browser gets the page again, which tells the outcome. The log has it too. */
 void page_redirect(const char* page, const outcome* result);
 
 /* A handler for the query that page_redirect() made; the context is an outcome. */

@@ -32,7 +32,7 @@ need_build_tools() {
 need_test_tools() {
   need /usr/include/gtest/gtest.h=libgtest-dev /usr/include/gmock/gmock.h=libgmock-dev \
     xmllint=libxml2-utils busybox=busybox node=nodejs npm=npm chromium=chromium \
-    mandoc=mandoc groff=groff-base
+    curl=curl mandoc=mandoc groff=groff-base
 }
 
 need_check_tools() {

@@ -60,6 +60,21 @@ test('a certificate is uploaded, described, and deleted when that is confirmed',
   await tab.getByRole('button', { name: 'Delete it' }).click();
   assert.equal(await tab.getByRole('status').first().textContent(), 'The file was deleted.');
   assert.deepEqual(files(), ['a.pem']);
+  await tab.goto(`${device.url}/cgi-bin/log`);
+  const [stored, deleted] = (await tab.locator('pre').innerText()).split('\n');
+  assert.match(stored, /^\d{4}-.*Z admin: certificate "<i>ä & b\.pem": The file was stored\.$/);
+  assert.match(deleted, /"<i>ä & b\.pem": The file was deleted\.$/);
+});
+
+test('the log is kept short, and shows its last lines across the cut', async () => {
+  fs.writeFileSync(path.join(device.state, 'log'), 'line\n'.repeat(15000));
+  await upload('x');
+  assert.ok(!fs.existsSync(path.join(device.state, 'log')));
+  await upload('y');
+  await tab.goto(`${device.url}/cgi-bin/log`);
+  const lines = (await tab.locator('pre').innerText()).split('\n');
+  assert.deepEqual(lines.slice(0, 198), Array(198).fill('line'));
+  assert.match(lines.slice(198).join(), /"x":.*,.*"y":/);
 });
 
 test('what is no certificate is listed as none', async () => {
@@ -103,7 +118,7 @@ test('without the password nobody gets in, on any way to the pages', async () =>
   const strangers = [...users.map((user) => ({ Authorization: `Basic ${btoa(user)}` })),
     {}, { Authorization: 'Basic %' }, { 'Remote-User': 'admin', REMOTE_USER: 'admin' }];
   const body = multipart('certificate', 'x', 'y');
-  for (const name of ['certificates', 'firmware', 'administration']) {
+  for (const name of ['certificates', 'firmware', 'log', 'administration']) {
     const escaped = `%${name.charCodeAt(0).toString(16)}${name.slice(1)}`;
     for (const stranger of strangers) {
       for (const way of [name, `${name}?told=1`, `/.//${name}`, `${name}/x`, escaped]) {

@@ -43,7 +43,7 @@ const left = () => {
 };
 const size = (name) => fs.statSync(path.join(incoming(), name)).size;
 const until = async (reached) => {
-  for (let tries = 0; !reached(); tries++) {
+  for (let tries = 0; !(await reached()); tries++) {
     assert.ok(tries < 2000, `never came: ${reached}`);
     await new Promise((resolve) => setTimeout(resolve, 10));
   }
@@ -83,7 +83,9 @@ test('the bar shows how far an upload is, and one that is cancelled leaves nothi
     { offline: false, latency: 0, downloadThroughput: -1, uploadThroughput: 1 << 20 });
   await tab.getByLabel('Image file').setInputFiles(file('image'));
   await tab.getByRole('button', { name: 'Upload' }).click();
-  await tab.waitForFunction("(b => b.value > 0 && b.value < 1)(document.querySelector('progress'))");
+  const value = () => tab.locator('progress').evaluate((bar) => bar.value);
+  await until(async () => await value() > 0);
+  assert.ok(await value() < 1);
   assert.match(await tab.getByRole('status').textContent(), /^\d+ %$/);
   await tab.getByRole('button', { name: 'Cancel' }).click();
   assert.equal(await tab.getByRole('status').textContent(),
