@@ -32,7 +32,7 @@ cmake --build find_package >/dev/null
 
 export LD_LIBRARY_PATH
 for folder in pkg-config find_package; do
-  "$@" $folder/plain
+  "$@" $folder/plain "$sources/plain/page.html"
   REQUEST_METHOD=GET "$@" $folder/echo
   if grep -q 'libcrypt[.]so' $folder/echo; then echo "$folder/echo needs libcrypt"; exit 1; fi
 done

@@ -1,7 +1,7 @@
 /*
  * A plain C program that knows nothing but the public header. It calls every function of the
- * interface in the order of the header and checks one plain result of each, the page output
- * included.
+ * interface in the order of the header, checks one plain result of each, and compares all that
+ * they printed with the page in the file that its argument names.
  */
 #ifndef PLAIN_H
 #define PLAIN_H
@@ -9,6 +9,7 @@
 #define _GNU_SOURCE
 #include <tavik.h>
 
+#include <fcntl.h>
 #include <stdlib.h>
 #include <string.h>
 #include <unistd.h>
@@ -20,20 +21,11 @@ extern int failures;
     if (!(condition)) failures++, fprintf(stderr, "%s:%d: %s\n", __FILE__, __LINE__, #condition); \
   } while (0)
 
-/* Whether all output since the last time was this text. */
-int printed(const char* text);
-
 /* The subsystems; directory is an empty one to work in, which they leave empty. */
-void request(void);
-void output(const char* directory);
+void request_and_output(const char* directory);
 void items(const char* directory);
-void text_fields(const char* directory);
-void choice_fields(const char* directory);
-void addresses(const char* directory);
-void passwords(const char* directory);
-void certificates(const char* directory);
-void network(void);
-void commands(const char* directory);
-void data(const char* directory);
+void fields(const char* directory);
+void accounts(const char* directory);
+void system_and_data(const char* directory);
 
 #endif

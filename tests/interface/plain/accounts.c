@@ -2,7 +2,7 @@
 
 #include <dirent.h>
 
-void passwords(const char* directory) {
+static void passwords(const char* directory) {
   const auth_pair users[] = {{"root", 7}, {NULL, 0}};
   passwd_state state;
   passwd_entry entry = {0, "old", 0, NULL, 0, NULL};
@@ -37,7 +37,7 @@ static int32_t show_link(uintptr_t context, uint32_t number, uint32_t mask, cons
   return 0;
 }
 
-void certificates(const char* directory) {
+static void certificates(const char* directory) {
   char folder[32], path[64], name[8];
   char* heap = NULL;
   cert_dir listing;
@@ -52,20 +52,19 @@ void certificates(const char* directory) {
   free(heap);
   CHECK(cert_dir_setup(&listing, folder, &tool, links) == 1);
   show_certificates(&listing, 'C', show_name, show_link);
-  CHECK(printed("Ca.pem0 title=\"b\"L31 title=\"c\""));
   gen_selectbox_certs(folder, "n", "a.pem", "none", 0, NULL);
-  CHECK(printed(
-      "<select name=\"n\">\r\n<option value=\"YS5wZW0=\" selected>a.pem</option>\r\n</select>"));
   CHECK(save_selectbox_cert(name, 7, "YS5wZW0=") == 5 && strcmp(name, "a.pem") == 0);
   CHECK(create_item(directory, ".choice", "", 0) == 1);
   CHECK(update_cert_item(directory, ".choice", "YS5wZW0=", 9) == 6);
   CHECK(gen_selectbox_certs_item(directory, ".choice", "n", folder, "-", 9, "") ==
         PF_KEEP_NONE_OPTION);
-  CHECK(
-      printed("<select name=\"n\">\r\n<option value=\"YS5wZW0=\" "
-              "selected>a.pem</option>\r\n<option value=\"\">-</option>\r\n</select>"));
   delete_certificate(&listing, 0);
   CHECK(listing.count == 0 && stat_item(directory, "a.pem") == -1);
   cert_dir_free(&listing);
   CHECK(listing.list == NULL && remove_item(directory, ".choice") == 0);
+}
+
+void accounts(const char* directory) {
+  passwords(directory);
+  certificates(directory);
 }
