@@ -43,10 +43,10 @@
 #include <stdint.h>
 #include <stdio.h>
 
-#define TAVIK_VERSION_MAJOR 0
-#define TAVIK_VERSION_MINOR 1
+#define TAVIK_VERSION_MAJOR 1
+#define TAVIK_VERSION_MINOR 0
 #define TAVIK_VERSION_PATCH 0
-#define TAVIK_VERSION "0.1.0"
+#define TAVIK_VERSION "1.0.0"
 
 #define TAVIK_API __attribute__((visibility("default")))
 #define TAVIK_PRINTF(text, first) __attribute__((format(printf, text, first)))
