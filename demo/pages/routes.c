@@ -1,11 +1,7 @@
-/*
- * "Routes": a list whose rows can be added, deleted, moved and sorted. ?format=xml gives it as a
- * document.
- */
-#include <stdlib.h>
-#include <string.h>
-
+/* "Routes": a list whose rows are added, deleted, moved and sorted; ?format=xml is a document. */
+#include "shared/form_value.h"
 #include "shared/page.h"
+#include "shared/route_document.h"
 #include "shared/route_list.h"
 
 enum { LIST, NETWORK, GATEWAY, REMARK, OLDER_LIST, SETTING_COUNT };
@@ -33,61 +29,29 @@ enum { ROW_ACTION_COUNT = 3, ACTION_COUNT = 4 };
 static xtable routes;
 
 /* Row numbers mean something in the list that the form showed, and in no other. */
-static void act(outcome* result, size_t action, uint32_t index, uint32_t mark) {
-  if (mark == routes_mark(&routes)) {
-    actions[action].act(&routes, index);
+static void act(outcome* result, const cgi_attr* attrs, int32_t count, size_t action) {
+  const char* index = form_value(attrs, count, actions[action].name);
+  if (index == NULL) return;
+  if (str_to_uint(form_value(attrs, count, "mark")) == routes_mark(&routes)) {
+    actions[action].act(&routes, str_to_uint(index));
   } else {
     result->failed |= 1U << OLDER_LIST;
   }
 }
 
-static void add(outcome* result, const char* const* texts) {
-  uint32_t wrong = route_add(&routes, texts[NETWORK], texts[GATEWAY], texts[REMARK]);
-  if ((wrong & ROUTE_NETWORK_WRONG) != 0) result->failed |= 1U << NETWORK;
-  if ((wrong & ROUTE_GATEWAY_WRONG) != 0) result->failed |= 1U << GATEWAY;
-}
-
 static int32_t save(void* context, cgi_attr* attrs, int32_t count, int32_t kind) {
-  const char* texts[SETTING_COUNT] = {0};
-  uint32_t mark = 0;
+  outcome* result = context;
+  const char* network = form_value(attrs, count, settings[NETWORK].name);
   (void)kind;
-  for (int32_t i = 0; i < count; i++) {
-    if (strcmp(attrs[i].name, "mark") == 0) mark = str_to_uint(attrs[i].value);
-    for (int s = NETWORK; s <= REMARK; s++) {
-      if (strcmp(attrs[i].name, settings[s].name) == 0) texts[s] = attrs[i].value;
-    }
-    for (size_t a = 0; a < ACTION_COUNT; a++) {
-      if (strcmp(attrs[i].name, actions[a].name) != 0) continue;
-      act(context, a, str_to_uint(attrs[i].value), mark);
-    }
+  for (size_t a = 0; a < ACTION_COUNT; a++) act(result, attrs, count, a);
+  if (network != NULL) {
+    uint32_t wrong = route_add(&routes, network, form_value(attrs, count, settings[GATEWAY].name),
+                               form_value(attrs, count, settings[REMARK].name));
+    if ((wrong & ROUTE_NETWORK_WRONG) != 0) result->failed |= 1U << NETWORK;
+    if ((wrong & ROUTE_GATEWAY_WRONG) != 0) result->failed |= 1U << GATEWAY;
   }
-  if (texts[NETWORK] != NULL) add(context, texts);
-  page_note(context, LIST, routes_store(&routes));
+  page_note(result, LIST, routes_store(&routes));
   return 0;
-}
-
-static void print_xml(void) {
-  xml_data doc = {0, 0, NULL};
-  xml_data_header(&doc);
-  xml_data_tag(&doc, "routes", XML_TAG_OPEN_NL);
-  for (const xtable_row* row = routes.head; row != NULL; row = row->next) {
-    route_texts texts;
-    route_print((const route*)row, &texts);
-    xml_data_tag(&doc, "route", XML_TAG_START);
-    xml_data_attr_num(&doc, "number", row->index);
-    xml_data_attr_str(&doc, "network", texts.network);
-    xml_data_tag(&doc, NULL, XML_TAG_OPEN_NL);
-    xml_data_element(&doc, "gateway", texts.gateway);
-    xml_data_element(&doc, "remark", ((const route*)row)->remark);
-    xml_data_tag(&doc, "route", XML_TAG_CLOSE);
-  }
-  xml_data_tag(&doc, "routes", XML_TAG_CLOSE);
-  if (doc.capacity == 0) print_str("Status: 500 Internal Server Error\r\n");
-  print_str(
-      "Content-Type: application/xml\r\nCache-Control: no-store\r\n"
-      "X-Content-Type-Options: nosniff\r\n\r\n");
-  print_mem(doc.buffer, doc.length);
-  free(doc.buffer);
 }
 
 static void print_row(const xtable_row* row) {
@@ -145,7 +109,7 @@ int main(void) {
   if (page_is_post()) {
     page_redirect("routes", &result);
   } else if (page_asks_for("xml")) {
-    print_xml();
+    route_document_print(&routes);
   } else {
     print_page(&result);
   }
