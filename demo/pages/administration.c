@@ -3,10 +3,10 @@
  * password it changes, and the web server asks for the new one from the next request on.
  */
 #include <signal.h>
-#include <string.h>
 
 #include "shared/access.h"
 #include "shared/device_log.h"
+#include "shared/form_value.h"
 #include "shared/page.h"
 #include "shared/path.h"
 #include "shared/told.h"
@@ -50,17 +50,17 @@ static uint32_t change(const char* present, const char* first, const char* again
   return signal_process(page_state(), "serverpid", SIGHUP) == 0 ? PW_STATUS_CHANGED : NOT_IN_FORCE;
 }
 
+/* A field that was not sent is as wrong as an empty one. */
+static const char* entered(const cgi_attr* attrs, int32_t count, const char* name) {
+  const char* text = form_value(attrs, count, name);
+  return text != NULL ? text : "";
+}
+
 static int32_t take(void* context, cgi_attr* attrs, int32_t count, int32_t kind) {
-  static const char* const names[] = {"present", "new", "again"};
-  const char* texts[] = {"", "", ""};
   uint32_t* status = context;
   if (kind != CGI_KIND_FORM) return 0;
-  for (int32_t i = 0; i < count; i++) {
-    for (size_t n = 0; n < sizeof names / sizeof *names; n++) {
-      if (strcmp(attrs[i].name, names[n]) == 0) texts[n] = attrs[i].value;
-    }
-  }
-  *status = change(texts[0], texts[1], texts[2]);
+  *status = change(entered(attrs, count, "present"), entered(attrs, count, "new"),
+                   entered(attrs, count, "again"));
   if (*status != PW_STATUS_NONE) device_log("administration: %s", messages[*status].text);
   return 0;
 }

@@ -9,9 +9,9 @@
 enum { NOTE_COUNT = 3, NOTE_CHARACTERS = 100, NOTE_SIZE = 3 * NOTE_CHARACTERS };
 
 static const setting notes[NOTE_COUNT] = {
-    {"owner", "Owner", NOTE_CHARACTERS, 0, NULL},
-    {"place", "Place", NOTE_CHARACTERS, 0, NULL},
-    {"remark", "Remark", NOTE_CHARACTERS, 0, NULL},
+    {.name = "owner", .label = "Owner"},
+    {.name = "place", .label = "Place"},
+    {.name = "remark", .label = "Remark"},
 };
 
 /* An item holds one line: the value ends at its first control character, or where it is full. */

@@ -1,73 +1,15 @@
 /* "Schedule": when the device restarts and backs its settings up, and the cron lines of that. */
-#include <string.h>
-
+#include "shared/check_group.h"
 #include "shared/page.h"
+#include "shared/time_box.h"
 
-enum { DAY_COUNT = 7, TIME_CHARACTERS = 5 };
+enum { DAY_COUNT = 7 };
 
-/* Each job has two settings, its time and then its weekdays. */
-enum { RESTART, BACKUP, JOB_COUNT, SETTING_COUNT = 2 * JOB_COUNT };
-
-static const setting settings[SETTING_COUNT] = {
-    {.name = "restart_time", .label = "Restart at"},
-    {.name = "restart_days", .label = "Restart on"},
-    {.name = "backup_time", .label = "Backup at"},
-    {.name = "backup_days", .label = "Backup on"},
-};
-
-static const char* const commands[JOB_COUNT] = {"/sbin/reboot", "/usr/sbin/backup"};
-
-static const setting* time_of(uint32_t job) {
-  return &settings[(size_t)job * 2];
-}
-
-static const setting* days_of(uint32_t job) {
-  return &settings[(size_t)job * 2 + 1];
-}
-
-static uint32_t day_bit(const char* text) {
-  return *text >= '0' && *text < '0' + DAY_COUNT && text[1] == '\0' ? 1U << (*text - '0') : 0;
-}
-
-static int32_t of_a_time(uint32_t position, uint32_t character) {
-  return character == ':' || textbox_filter_digit(position, character);
-}
-
-static int32_t store_time(const char* name, const char* text) {
-  char clean[16];
-  uint32_t hours = 0;
-  uint32_t minutes = 0;
-  scan_textbox(text, TIME_CHARACTERS, 0, clean, TIME_CHARACTERS, of_a_time);
-  if (scan_time(clean, &hours, &minutes) < 1) return -1;
-  snprintf(clean, sizeof clean, "%02u:%02u", hours % 24, minutes % 60);
-  return update_item(page_state(), name, clean, TIME_CHARACTERS);
-}
-
-/* A box that is off sends nothing: a hidden field of its name, without a day, goes along. */
-static int32_t save(void* context, cgi_attr* attrs, int32_t count, int32_t kind) {
-  (void)kind;
-  for (uint32_t job = 0; job < JOB_COUNT; job++) {
-    uint32_t mask = 0;
-    int32_t told = 0;
-    for (int32_t i = 0; i < count; i++) {
-      const char* value = attrs[i].value;
-      if (strcmp(attrs[i].name, time_of(job)->name) == 0) {
-        page_note(context, 2 * job, store_time(time_of(job)->name, value));
-      }
-      if (strcmp(attrs[i].name, days_of(job)->name) != 0) continue;
-      told = 1;
-      mask |= day_bit(value);
-    }
-    if (!told) continue;
-    page_note(context, 2 * job + 1, update_item_uint(page_state(), days_of(job)->name, mask));
-  }
-  return 0;
-}
-
-static void print_days(uint32_t job) {
+/* The days are an item with a bit for each. */
+static void print_days(const setting* about) {
   dow_entry days[DAY_COUNT];
   uint32_t mask = 0;
-  uint32_t flags = rd_numberbox_item(page_state(), days_of(job)->name, &mask, 0);
+  uint32_t flags = rd_numberbox_item(page_state(), about->name, &mask, 0);
   gen_dow_table(days, DAY_COUNT,
                 "1Monday\0"
                 "2Tuesday\0"
@@ -76,33 +18,48 @@ static void print_days(uint32_t job) {
                 "5Friday\0"
                 "6Saturday\0"
                 "0Sunday\0");
-  printf(
-      "<fieldset class=\"field\"><legend>%s</legend>\r\n<div class=\"choices week\">"
-      "<input type=\"hidden\" name=\"%s\" value=\"\">\r\n",
-      days_of(job)->label, days_of(job)->name);
+  check_group_begin(about->name);
   for (int d = 0; d < DAY_COUNT; d++) {
-    print_str("<label>");
-    gen_xcheckbox(flags | checkbox_flags(mask >> days[d].day & 1, 0), " name=\"%s\" value=\"%u\"",
-                  days_of(job)->name, (unsigned)days[d].day);
-    printf(" %s</label>\r\n", days[d].label);
+    uint32_t checked = checkbox_flags(mask >> days[d].day & 1, 0);
+    check_group_box(about->name, days[d].day, days[d].label, flags | checked);
   }
-  print_str("</div></fieldset>\r\n");
 }
 
-static void print_cron_line(uint32_t job) {
-  char days[16];
-  char time[TIME_CHARACTERS + 1];
+static const control day_boxes = {print_days, NULL, 1};
+
+enum { RESTART_TIME, RESTART_DAYS, BACKUP_TIME, BACKUP_DAYS, SETTING_COUNT };
+
+static const setting settings[SETTING_COUNT] = {
+    [RESTART_TIME] = {"restart_time", "Restart at", .control = &time_box},
+    [RESTART_DAYS] = {"restart_days", "Restart on", .control = &day_boxes},
+    [BACKUP_TIME] = {"backup_time", "Backup at", .control = &time_box},
+    [BACKUP_DAYS] = {"backup_days", "Backup on", .control = &day_boxes},
+};
+
+static int32_t save(void* context, cgi_attr* attrs, int32_t count, int32_t kind) {
+  uint32_t mask = 0;
+  (void)kind;
+  page_store_form(context, attrs, count, settings, SETTING_COUNT, setting_store);
+  for (uint32_t s = RESTART_DAYS; s <= BACKUP_DAYS; s += 2) {
+    const char* name = settings[s].name;
+    if (!check_group_read(attrs, count, name, DAY_COUNT, &mask)) continue;
+    page_note(context, s, update_item_uint(page_state(), name, mask));
+  }
+  return 0;
+}
+
+static void print_cron_line(const setting* time, const setting* days, const char* command) {
+  char text[16];
   uint32_t mask = 0;
   uint32_t hours = 0;
   uint32_t minutes = 0;
-  read_item_uint(page_state(), days_of(job)->name, &mask);
-  read_item(page_state(), time_of(job)->name, time, TIME_CHARACTERS);
-  scan_time(time, &hours, &minutes);
-  cron_weekdays(days, sizeof days, mask);
-  if (*days == '\0') {
-    printf("# never: %s\n", commands[job]);
+  time_read(time, &hours, &minutes);
+  read_item_uint(page_state(), days->name, &mask);
+  cron_weekdays(text, sizeof text, mask);
+  if (*text == '\0') {
+    printf("# never: %s\n", command);
   } else {
-    printf("%u %u * * %s %s\n", minutes, hours, days, commands[job]);
+    printf("%u %u * * %s %s\n", minutes, hours, text, command);
   }
 }
 
@@ -110,17 +67,11 @@ static void print_page(const outcome* result) {
   page_begin("schedule", "Schedule");
   page_print_outcome(result, settings, SETTING_COUNT);
   page_form("schedule");
-  for (uint32_t job = 0; job < JOB_COUNT; job++) {
-    page_label(time_of(job)->name, time_of(job)->label);
-    gen_xtextbox_item(page_state(), time_of(job)->name, TIME_CHARACTERS, 0,
-                      " id=\"%s\" name=\"%s\" placeholder=\"HH:MM\" required", time_of(job)->name,
-                      time_of(job)->name);
-    page_field_end();
-    print_days(job);
-  }
+  for (int s = 0; s < SETTING_COUNT; s++) setting_print(&settings[s]);
   page_form_end();
   print_str("<h2>Cron lines</h2>\r\n<pre>");
-  for (uint32_t job = 0; job < JOB_COUNT; job++) print_cron_line(job);
+  print_cron_line(&settings[RESTART_TIME], &settings[RESTART_DAYS], "/sbin/reboot");
+  print_cron_line(&settings[BACKUP_TIME], &settings[BACKUP_DAYS], "/usr/sbin/backup");
   print_str("</pre>\r\n");
   page_end();
 }

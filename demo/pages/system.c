@@ -8,23 +8,23 @@
 enum { HOST_NAME, LOCATION, CONTACT, TIME_SERVER, PASSPHRASE, SETTING_COUNT };
 
 static const setting settings[SETTING_COUNT] = {
-    [HOST_NAME] = {"hostname", "Host name", 63, 0, textbox_filter_dns},
-    [LOCATION] = {"location", "Location", 80, 0, text_filter_line},
-    [CONTACT] = {"contact", "Contact", 80, 0, text_filter_line},
-    [TIME_SERVER] = {"timeserver", "Time server", 63, 0, textbox_filter_dns6},
-    [PASSPHRASE] = {"passphrase", "Passphrase", 32, PF_PASSWORD | PF_AUTOCOMPLETE_OFF,
-                    textbox_filter_ascii_printable},
+    [HOST_NAME] = {"hostname", "Host name", .maximum = 63, .filter = textbox_filter_dns},
+    [LOCATION] = {"location", "Location", .maximum = 80, .filter = text_filter_line},
+    [CONTACT] = {"contact", "Contact", .maximum = 80, .filter = text_filter_line},
+    [TIME_SERVER] = {"timeserver", "Time server", .maximum = 63, .filter = textbox_filter_dns6},
+    [PASSPHRASE] = {"passphrase", "Passphrase", .maximum = 32,
+                    .filter = textbox_filter_ascii_printable,
+                    .flags = PF_PASSWORD | PF_AUTOCOMPLETE_OFF},
 };
 
-static int32_t store(uint32_t index, const char* text) {
-  const setting* field = &settings[index];
+static int32_t store(const setting* field, const char* text) {
+  uint32_t maximum = (uint32_t)field->maximum;
   if ((field->flags & PF_PASSWORD) == 0) {
-    return update_textbox_item(page_state(), field->name, text, (uint32_t)field->maximum,
-                               field->filter);
+    return update_textbox_item(page_state(), field->name, text, maximum, field->filter);
   }
   uint32_t rejected = 0;
-  int32_t stored = update_password_item(page_state(), field->name, text, (uint32_t)field->maximum,
-                                        field->filter, &rejected);
+  int32_t stored =
+      update_password_item(page_state(), field->name, text, maximum, field->filter, &rejected);
   return stored == 0 && rejected > 0 ? -1 : stored;
 }
 
@@ -49,7 +49,7 @@ static void print_page(const outcome* result) {
   page_begin("system", "System");
   page_print_outcome(result, settings, SETTING_COUNT);
   page_form("system");
-  for (int s = 0; s < SETTING_COUNT; s++) page_text_field(&settings[s]);
+  for (int s = 0; s < SETTING_COUNT; s++) setting_print(&settings[s]);
   page_form_end();
   page_end();
 }

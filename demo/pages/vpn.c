@@ -1,76 +1,47 @@
 /* "VPN": the tunnel's other end, its cipher, its digest, and the certificate it shows. */
 #include <string.h>
 
+#include "shared/certificate_store.h"
+#include "shared/choice_controls.h"
 #include "shared/page.h"
-#include "shared/text_select.h"
 
-enum { PEER, CIPHER, DIGEST, CERTIFICATE, SETTING_COUNT };
-
-static const setting settings[SETTING_COUNT] = {
-    [PEER] = {"vpnpeer", "Server", 63, 0, textbox_filter_dns6},
-    [CIPHER] = {.name = "vpncipher", .label = "Cipher"},
-    [DIGEST] = {.name = "vpndigest", .label = "Digest"},
-    [CERTIFICATE] = {.name = "vpncert", .label = "Certificate", .maximum = 120},
-};
-
-static const struct {
-  selectbox_text_row row;
-  const char* fallback;
-} selects[SETTING_COUNT] = {
-    [CIPHER] = {get_ovpn_cipher, "AES-256-CBC"},
-    [DIGEST] = {get_ovpn_hash, "SHA256"},
-};
-
-static const char* certificates(void) {
-  static char folder[512];
-  snprintf(folder, sizeof folder, "%s/certificates", page_state());
-  return folder;
+static void print_certificate(const setting* about) {
+  gen_selectbox_certs_item(page_state(), about->name, about->name, certificate_folder(), "None",
+                           about->maximum, " id=\"vpncert\"");
 }
 
 /* What is sent can be any path: a file of the folder is wanted, or none. */
-static int32_t store_certificate(const setting* field, const char* text) {
-  char file[128] = "";
-  int32_t length = save_selectbox_cert(file, field->maximum, text);
+static int32_t store_certificate(const setting* about, const char* text) {
+  char file[CERTIFICATE_NAME_BYTES + 2] = ""; /* is terminated behind a name that is too long */
+  int32_t length = save_selectbox_cert(file, about->maximum, text);
   if (length == 0 ? *text != '\0' : strlen(file) != (size_t)length) return -1;
   if (*file == '.' || strchr(file, '/') != NULL) return -1;
-  if (length > 0 && stat_item(certificates(), file) != 0) return -1;
-  return update_cert_item(page_state(), field->name, text, field->maximum);
+  if (length > 0 && stat_item(certificate_folder(), file) != 0) return -1;
+  return update_cert_item(page_state(), about->name, text, about->maximum);
 }
 
-static int32_t store(uint32_t index, const char* text) {
-  const setting* field = &settings[index];
-  if (index == CERTIFICATE) return store_certificate(field, text);
-  if (selects[index].row == NULL) {
-    return update_textbox_item(page_state(), field->name, text, (uint32_t)field->maximum,
-                               field->filter);
-  }
-  return text_select_store(field->name, text, selects[index].row, 0, selects[index].fallback);
-}
+static const control certificate_select = {print_certificate, store_certificate, 0};
+
+enum { SETTING_COUNT = 4 };
+
+static const setting settings[SETTING_COUNT] = {
+    {"vpnpeer", "Server", .maximum = 63, .filter = textbox_filter_dns6},
+    {"vpncipher", "Cipher", &text_select, .row = get_ovpn_cipher, .fallback = "AES-256-CBC"},
+    {"vpndigest", "Digest", &text_select, .row = get_ovpn_hash, .fallback = "SHA256"},
+    {"vpncert", "Certificate", &certificate_select, .maximum = CERTIFICATE_NAME_BYTES},
+};
 
 static int32_t save(void* context, cgi_attr* attrs, int32_t count, int32_t kind) {
   (void)kind;
-  page_store_form(context, attrs, count, settings, SETTING_COUNT, store);
+  page_store_form(context, attrs, count, settings, SETTING_COUNT, setting_store);
   return 0;
-}
-
-static void print_certificate(const setting* field) {
-  page_label(field->name, field->label);
-  gen_selectbox_certs_item(page_state(), field->name, field->name, certificates(), "None",
-                           field->maximum, " id=\"vpncert\"");
-  page_field_end();
 }
 
 static void print_page(const outcome* result) {
   page_begin("vpn", "VPN");
   page_print_outcome(result, settings, SETTING_COUNT);
   page_form("vpn");
-  page_text_field(&settings[PEER]);
-  for (int s = CIPHER; s <= DIGEST; s++) {
-    page_label(settings[s].name, settings[s].label);
-    text_select_print(settings[s].name, selects[s].row, 0, selects[s].fallback);
-    page_field_end();
-  }
-  print_certificate(&settings[CERTIFICATE]);
+  for (int s = 0; s < SETTING_COUNT; s++) setting_print(&settings[s]);
   page_form_end();
   page_end();
 }

@@ -1,23 +1,12 @@
-/*
- * Controls for addresses, each on an item of the same name. A store function answers like
- * update_item().
- */
+/* Controls for addresses. An invalid text leaves what is stored. */
 #ifndef DEMO_ADDRESS_CONTROLS_H
 #define DEMO_ADDRESS_CONTROLS_H
 
-#include <stdint.h>
+#include "shared/setting.h"
 
-void print_address(const char* name);
-int32_t store_address(const char* name, const char* text);
-
-/* A netmask is printed as an address; one of 8 to 30 bits is stored. */
-int32_t store_netmask(const char* name, const char* text);
-
-void print_route(const char* name);
-int32_t store_route(const char* name, const char* text);
-
-/* An address that no interface can have is refused. */
-void print_mac(const char* name);
-int32_t store_mac(const char* name, const char* text);
+extern const control address_box;
+extern const control netmask_box; /* of 8 to 30 bits */
+extern const control route_box;   /* an address with its prefix */
+extern const control mac_box;     /* refuses an address that no interface can have */
 
 #endif

@@ -5,6 +5,7 @@
 #include <time.h>
 
 #include "shared/device_log.h"
+#include "shared/form_value.h"
 
 /* One page a line. */
 /* clang-format off */
@@ -73,11 +74,12 @@ void page_note(outcome* result, uint32_t index, int32_t stored) {
 }
 
 void page_store_form(outcome* result, const cgi_attr* attrs, int32_t count, const setting* settings,
-                     uint32_t setting_count, int32_t (*store)(uint32_t index, const char* text)) {
+                     uint32_t setting_count,
+                     int32_t (*store)(const setting* about, const char* text)) {
   for (int32_t i = 0; i < count; i++) {
     for (uint32_t s = 0; s < setting_count; s++) {
       if (strcmp(attrs[i].name, settings[s].name) != 0) continue;
-      page_note(result, s, store(s, attrs[i].value));
+      page_note(result, s, store(&settings[s], attrs[i].value));
     }
   }
 }
@@ -97,18 +99,14 @@ int32_t page_asks_for(const char* format) {
 
 int32_t page_read_outcome(void* context, cgi_attr* attrs, int32_t count, int32_t kind) {
   outcome* result = context;
+  const char* format = form_value(attrs, count, "format");
+  const char* changed = form_value(attrs, count, "changed");
+  const char* failed = form_value(attrs, count, "failed");
   (void)kind;
-  for (int32_t i = 0; i < count; i++) {
-    if (strcmp(attrs[i].name, "format") == 0) {
-      strsncpy(asked_format, sizeof asked_format, attrs[i].value);
-    }
-    uint32_t* bits = strcmp(attrs[i].name, "changed") == 0  ? &result->changed
-                     : strcmp(attrs[i].name, "failed") == 0 ? &result->failed
-                                                            : NULL;
-    if (bits == NULL) continue;
-    *bits = str_to_uint(attrs[i].value);
-    result->told = 1;
-  }
+  if (format != NULL) strsncpy(asked_format, sizeof asked_format, format);
+  result->changed = str_to_uint(changed);
+  result->failed = str_to_uint(failed);
+  result->told = changed != NULL || failed != NULL;
   return 0;
 }
 
@@ -203,11 +201,12 @@ void page_field_end(void) {
   print_str("</p>\r\n");
 }
 
-void page_text_field(const setting* field) {
-  page_label(field->name, field->label);
-  gen_xtextbox_item(page_state(), field->name, field->maximum, field->flags,
-                    " id=\"%s\" name=\"%s\"", field->name, field->name);
-  page_field_end();
+void page_legend(const char* legend) {
+  printf("<fieldset class=\"field\"><legend>%s</legend>\r\n<div class=\"choices\">", legend);
+}
+
+void page_legend_end(void) {
+  print_str("</div></fieldset>\r\n");
 }
 
 void page_end(void) {

@@ -9,17 +9,7 @@
 #ifndef DEMO_PAGE_H
 #define DEMO_PAGE_H
 
-#include "tavik.h"
-
-/* One setting of a form. What of it is zero takes no part. */
-typedef struct setting setting;
-struct setting {
-  const char* name;  /* of the item and of the control */
-  const char* label; /* as a person reads it */
-  int32_t maximum;   /* in characters */
-  uint32_t flags;    /* print flags */
-  textbox_filter filter;
-};
+#include "shared/setting.h"
 
 /* What became of a form: a bit for each setting of its table, the first is bit 0. */
 typedef struct outcome outcome;
@@ -50,11 +40,12 @@ int32_t page_trusts_query(void);
 void page_note(outcome* result, uint32_t index, int32_t stored);
 
 /*
- * Calls store(index, value) for each value of a form that has the name of a setting, in the form's
- * order, and notes the results.
+ * Calls store(setting, value) for each value of a form that has the name of a setting, in the
+ * form's order, and notes the results. setting_store() stores each as its control does.
  */
 void page_store_form(outcome* result, const cgi_attr* attrs, int32_t count, const setting* settings,
-                     uint32_t setting_count, int32_t (*store)(uint32_t index, const char* text));
+                     uint32_t setting_count,
+                     int32_t (*store)(const setting* about, const char* text));
 
 /* Answers a POST: the browser gets the page again, which tells the outcome. The log has it too. */
 void page_redirect(const char* page, const outcome* result);
@@ -81,8 +72,9 @@ void page_form_end(void);
 void page_label(const char* name, const char* label);
 void page_field_end(void);
 
-/* A text field with its label, for a setting with an item. */
-void page_text_field(const setting* field);
+/* The same for several controls, each with a label of its own. */
+void page_legend(const char* legend);
+void page_legend_end(void);
 
 void page_end(void);
 

@@ -29,9 +29,9 @@ static const char* attribute(const cgi_attr* attrs, int32_t count, const char* n
   return NULL;
 }
 
-const char* upload_name(const cgi_attr* attrs, int32_t count, const char* control) {
+const char* upload_name(const cgi_attr* attrs, int32_t count, const char* field) {
   const char* name = attribute(attrs, count, "name");
-  return name != NULL && strcmp(name, control) == 0
+  return name != NULL && strcmp(name, field) == 0
              ? valid_filename(attribute(attrs, count, "filename"))
              : NULL;
 }
@@ -106,10 +106,10 @@ int32_t upload_store(const cgi_attr* attrs, const char* folder, const char* name
   return result;
 }
 
-void upload_form(const char* page, const char* control, const char* label) {
+void upload_form(const char* page, const char* field, const char* label) {
   printf("<form method=\"post\" enctype=\"multipart/form-data\" action=\"%s\">\r\n", page);
-  page_label(control, label);
-  gen_upload(0, " id=\"%s\" name=\"%s\" required", control, control);
+  page_label(field, label);
+  gen_upload(0, " id=\"%s\" name=\"%s\" required", field, field);
   page_field_end();
   print_str(
       "<p class=\"progress\" hidden><progress aria-label=\"Upload\"></progress>\r\n"

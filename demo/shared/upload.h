@@ -26,10 +26,10 @@ enum {
 extern const message upload_messages[UPLOAD_STATUS_COUNT];
 
 /*
- * The file name that came with a part, without folders, for a part that is this control's file.
+ * The file name that came with a part, without folders, for a part that is this field's file.
  * Null for any other part; empty if no file was chosen.
  */
-const char* upload_name(const cgi_attr* attrs, int32_t count, const char* control);
+const char* upload_name(const cgi_attr* attrs, int32_t count, const char* field);
 
 /* Passes over a part's body. Result: as scan_boundary(). */
 int32_t upload_skip(const cgi_attr* attrs);
@@ -42,6 +42,6 @@ int32_t upload_store(const cgi_attr* attrs, const char* folder, const char* name
                      uint32_t* status);
 
 /* Prints the control with its label, and what shows the progress, inside a form for uploads. */
-void upload_form(const char* page, const char* control, const char* label);
+void upload_form(const char* page, const char* field, const char* label);
 
 #endif
