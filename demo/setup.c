@@ -1,7 +1,7 @@
 /*
  * Makes the demo device's state: a folder that only its owner can enter, and in it each item that
  * is not there yet, with its first value; the folders of uploads; and the administrator's password
- * with the web server's configuration. Tells the password as long as it is the first one.
+ * with what the web server knows of it. Tells the password as long as it is the first one.
  */
 #include <errno.h>
 #include <stdlib.h>

@@ -22,26 +22,39 @@ const char* access_user(void) {
   return user != NULL ? user : "-";
 }
 
-static int32_t write_pages(FILE* file, const char* hash) {
+/* What the server asks for on each page that is not open to everybody. */
+static void write_pages(FILE* file, const char* hash) {
   for (size_t i = 0; i < sizeof guarded_pages / sizeof *guarded_pages; i++) {
     fprintf(file, "/cgi-bin/%s:" ACCESS_USER ":%s\n", guarded_pages[i], hash);
   }
-  return fflush(file) == 0 && fsync(fileno(file)) == 0 ? 0 : -1;
+}
+
+static void write_user(FILE* file, const char* hash) {
+  fprintf(file, ACCESS_USER ":%s\n", hash);
+}
+
+/* The file is in one piece at any time, and stays as it was on failure. */
+static int32_t replace_file(const char* state, const char* name, const char* hash,
+                            void (*write_content)(FILE* file, const char* hash)) {
+  char path[PATH_SIZE];
+  char temporary[PATH_SIZE];
+  path_join(path, state, name);
+  path_join(temporary, state, "access.new");
+  FILE* file = fopen(temporary, "w");
+  if (file == NULL) return -1;
+  write_content(file, hash);
+  int32_t stored = fflush(file) == 0 && fsync(fileno(file)) == 0;
+  if (fclose(file) != 0 || !stored) return -1;
+  return rename(temporary, path);
 }
 
 int32_t access_configure(const char* state) {
   passwd_state password;
-  char path[PATH_SIZE];
-  char temporary[PATH_SIZE];
   if (rd_passwd(state, ACCESS_ITEM, &password, 0) == 0) {
     errno = EINVAL;
     return -1;
   }
-  path_join(path, state, "httpd.conf");
-  path_join(temporary, state, "httpd.conf.new");
-  FILE* file = fopen(temporary, "w");
-  if (file == NULL) return -1;
-  int32_t written = write_pages(file, password.stored);
-  if (fclose(file) != 0 || written < 0) return -1;
-  return rename(temporary, path);
+  int32_t users = replace_file(state, "htpasswd", password.stored, write_user);
+  int32_t pages = replace_file(state, "httpd.conf", password.stored, write_pages);
+  return users < 0 || pages < 0 ? -1 : 0;
 }

@@ -1,6 +1,6 @@
 /*
  * Who may do what is dangerous: one user, whose password the web server asks for. The password is
- * an item, and the server's configuration is made from its hash.
+ * an item, and the server's files are made from its hash.
  */
 #ifndef DEMO_ACCESS_H
 #define DEMO_ACCESS_H
@@ -22,8 +22,9 @@ void access_guard(void);
 const char* access_user(void);
 
 /*
- * Writes the server's configuration from the stored password. It is in one piece at any time, and
- * stays as it was on failure. Result: 0; -1 with errno set, also if no hash is stored.
+ * Writes what the web server knows of the stored password: httpd.conf for busybox, which names the
+ * pages as well, and htpasswd for servers that read such a file. Each is in one piece at any time,
+ * and stays as it was on failure. Result: 0; -1 with errno set, also if no hash is stored.
  */
 int32_t access_configure(const char* state);
 

@@ -5,7 +5,7 @@ import fs from 'node:fs';
 import path from 'node:path';
 import { after, before, test } from 'node:test';
 import { openBrowser } from './lib/browser.mjs';
-import { demo, startDevice } from './lib/server.mjs';
+import { demo, readsPasswordsOnce, startDevice } from './lib/server.mjs';
 
 let device;
 let browser;
@@ -78,16 +78,20 @@ test('the new password is the one asked for next, in a browser', async () => {
 test('a set-up leaves the password, also when one copy of it is lost', () => {
   const hash = device.item('adminpassword');
   const setup = () => execFileSync(path.join(demo, 'setup'), [device.state], { encoding: 'latin1' });
-  for (const lost of ['adminpassword', 'saved/adminpassword']) {
+  for (const lost of ['adminpassword', 'saved/adminpassword', 'httpd.conf', 'htpasswd']) {
     fs.writeFileSync(path.join(device.state, lost), '');
     assert.equal(setup(), '');
     for (const copy of ['adminpassword', 'saved/adminpassword']) assert.equal(device.item(copy), hash);
+    for (const file of ['httpd.conf', 'htpasswd']) assert.ok(device.item(file).endsWith(`:${hash}`), file);
   }
 });
 
-test('a password that could not be put in force, or not be stored, is told', async () => {
+test('a password that could not be put in force is told', readsPasswordsOnce, async () => {
   fs.rmSync(path.join(device.state, 'serverpid'));
   assert.match(await change(password, 'third-word', 'third-word'), /goes on asking for the old one/);
+});
+
+test('a password that could not be stored is told', async () => {
   fs.rmSync(path.join(device.state, 'adminpassword'));
   assert.equal(await change('', 'fourth-word', 'fourth-word'),
     'The password could not be stored. The old one still counts.');
