@@ -1,21 +1,44 @@
-/* "Log": the last lines of the device's own log, as a command prints them. */
+/*
+ * "Log": the last lines of the device's own log, as a command prints them. ?format=text gives the
+ * whole log as a file.
+ */
 #include "shared/access.h"
 #include "shared/device_log.h"
 #include "shared/page.h"
 
 enum { SHOWN_LINES = 200 };
 
-int main(void) {
-  access_guard();
-  getcgivars(NULL, NULL, NULL);
+/* No user has a say in the folder's name, which stands between double quotes here. */
+#define LOG_COMMAND "cat \"%s/" DEVICE_LOG_OLD "\" \"%s/" DEVICE_LOG "\" 2>/dev/null"
+
+static void print_file(void) {
+  print_str(
+      "Content-Type: text/plain; charset=utf-8\r\n"
+      "Content-Disposition: attachment; filename=\"log.txt\"\r\n"
+      "Cache-Control: no-store\r\nX-Content-Type-Options: nosniff\r\n\r\n");
+  run_shell(PF_RAW, LOG_COMMAND, page_state(), page_state());
+}
+
+static void print_page(void) {
   page_begin("log", "Log");
   if (stat_item(page_state(), DEVICE_LOG) < 0 && stat_item(page_state(), DEVICE_LOG_OLD) < 0) {
     print_str("<p>Nothing has been logged yet.</p>\r\n");
   } else {
-    run_shell(PF_PRE,
-              "cat \"%s/" DEVICE_LOG_OLD "\" \"%s/" DEVICE_LOG "\" 2>/dev/null | tail -n %d",
-              page_state(), page_state(), SHOWN_LINES);
+    run_shell(PF_PRE, LOG_COMMAND " | tail -n %d", page_state(), page_state(), SHOWN_LINES);
+    print_str(
+        "<p class=\"actions\"><a href=\"log?format=text\">The whole log as a file</a></p>\r\n");
   }
   page_end();
+}
+
+int main(void) {
+  outcome ignored = {0, 0, 0};
+  access_guard();
+  getcgivars(&ignored, NULL, page_read_outcome);
+  if (page_asks_for("text")) {
+    print_file();
+  } else {
+    print_page();
+  }
   return 0;
 }

@@ -75,6 +75,15 @@ test('the new password is the one asked for next, in a browser', async () => {
   password = 'next-word';
 });
 
+test('the log tells of every attempt, also as a file, and of no password', async () => {
+  const answer = await fetch(`${device.url}/cgi-bin/log?format=text`, { headers: login(password) });
+  assert.match(answer.headers.get('content-disposition'), /^attachment; filename="log\.txt"$/);
+  const text = await answer.text();
+  assert.equal(text, device.item('log'));
+  assert.equal(text.match(/Z admin: administration: /g).length, 9);
+  assert.ok(!text.includes('next-word'));
+});
+
 test('a set-up leaves the password, also when one copy of it is lost', () => {
   const hash = device.item('adminpassword');
   const setup = () => execFileSync(path.join(demo, 'setup'), [device.state], { encoding: 'latin1' });
