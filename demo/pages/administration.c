@@ -88,7 +88,7 @@ int main(void) {
   print_field("new", "New password", "new-password");
   print_field("again", "New password again", "new-password");
   html_printf(1, "<p class=\"quiet\">8 to 64 characters of %s</p>\r\n", passwd_chars());
-  page_form_end();
+  page_form_end("Save");
   page_end();
   return 0;
 }

@@ -78,6 +78,7 @@ static void print_list(void) {
       "<table class=\"stack\"><thead><tr><th>Network</th><th>Gateway</th><th>Remark</th>"
       "<th>Change</th></tr></thead>\r\n<tbody>\r\n");
   for (const xtable_row* row = routes.head; row != NULL; row = row->next) print_row(row);
+  if (routes.head == NULL) print_str("<tr><td colspan=\"4\">None.</td></tr>\r\n");
   print_str("</tbody></table>\r\n<p class=\"actions\">");
   gen_xbutton(actions[ROW_ACTION_COUNT].label, NULL, PF_SUBMIT, " class=\"plain\" name=\"sort\"");
   print_str("<a href=\"routes?format=xml\">The list as XML</a></p>\r\n</form>\r\n");
@@ -95,9 +96,8 @@ static void print_page(const outcome* result) {
                  settings[s].name, s == REMARK ? "" : " required");
     page_field_end();
   }
-  print_str("<p class=\"actions\">");
-  gen_xbutton("Add", NULL, PF_SUBMIT, NULL);
-  print_str("</p>\r\n</form>\r\n");
+  print_str("<p class=\"quiet\">A network, such as 192.0.2.0/24, stands in the list once.</p>\r\n");
+  page_form_end("Add");
   page_end();
 }
 

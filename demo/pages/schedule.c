@@ -68,7 +68,7 @@ static void print_page(const outcome* result) {
   page_print_outcome(result, settings, SETTING_COUNT);
   page_form("schedule");
   for (int s = 0; s < SETTING_COUNT; s++) setting_print(&settings[s]);
-  page_form_end();
+  page_form_end("Save");
   print_str("<h2>Cron lines</h2>\r\n<pre>");
   print_cron_line(&settings[RESTART_TIME], &settings[RESTART_DAYS], "/sbin/reboot");
   print_cron_line(&settings[BACKUP_TIME], &settings[BACKUP_DAYS], "/usr/sbin/backup");

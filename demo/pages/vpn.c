@@ -42,7 +42,7 @@ static void print_page(const outcome* result) {
   page_print_outcome(result, settings, SETTING_COUNT);
   page_form("vpn");
   for (int s = 0; s < SETTING_COUNT; s++) setting_print(&settings[s]);
-  page_form_end();
+  page_form_end("Save");
   page_end();
 }
 

@@ -189,8 +189,8 @@ void page_form(const char* page) {
   printf("<form method=\"post\" action=\"%s\">\r\n", page);
 }
 
-void page_form_end(void) {
-  print_str("<p class=\"actions\"><button type=\"submit\">Save</button></p>\r\n</form>\r\n");
+void page_form_end(const char* button) {
+  printf("<p class=\"actions\"><button type=\"submit\">%s</button></p>\r\n</form>\r\n", button);
 }
 
 void page_label(const char* name, const char* label) {

@@ -65,8 +65,9 @@ void page_begin_scripted(const char* page, const char* title, const char* script
 /* Tells in words what a save did, if there was one. */
 void page_print_outcome(const outcome* result, const setting* settings, uint32_t count);
 
+/* A form of a page, which ends with a button. */
 void page_form(const char* page);
-void page_form_end(void);
+void page_form_end(const char* button);
 
 /* Begins a field with its label; the control, whose id is the name, and page_field_end() follow. */
 void page_label(const char* name, const char* label);
