@@ -66,7 +66,7 @@ static const setting settings[SETTING_COUNT] = {
 
 static int32_t save(void* context, cgi_attr* attrs, int32_t count, int32_t kind) {
   (void)kind;
-  page_store_form(context, attrs, count, settings, SETTING_COUNT, setting_store);
+  outcome_store_form(context, attrs, count, settings, SETTING_COUNT, setting_store);
   return 0;
 }
 
@@ -77,7 +77,7 @@ static int32_t read_query(void* context, cgi_attr* attrs, int32_t count, int32_t
   char* clean = text != NULL ? text_area_clean(&settings[MESSAGE], text) : NULL;
   if (clean != NULL) asked = sms_measure(clean);
   free(clean);
-  return page_read_outcome(context, attrs, count, kind);
+  return page_read_query(context, attrs, count, kind);
 }
 
 /* No character that JSON would have escaped is one that cannot be sent. */
@@ -92,7 +92,7 @@ static void print_json(void) {
 
 static void print_page(const outcome* result) {
   page_begin_scripted("mobile", "Mobile", PAGE_ASSETS "/message.js");
-  page_print_outcome(result, settings, SETTING_COUNT);
+  outcome_print(result, settings, SETTING_COUNT);
   page_form("mobile");
   for (int s = 0; s < SETTING_COUNT; s++) setting_print(&settings[s]);
   page_form_end("Save");
@@ -105,7 +105,7 @@ int main(void) {
   countries = operators_read();
   getcgivars(&result, save, page_is_post() ? NULL : read_query);
   if (page_is_post()) {
-    page_redirect("mobile", &result);
+    outcome_redirect(&result, "mobile");
   } else if (page_asks_for("json")) {
     print_json();
   } else {

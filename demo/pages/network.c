@@ -48,9 +48,9 @@ static void restore_first_values(outcome* result) {
     const char* name = settings[s].name;
     const char* value = first_value(name);
     if (value == NULL) continue;
-    page_note(result, s,
-              s < FIELD_COUNT ? setting_store(&settings[s], value)
-                              : update_item(page_state(), name, value, 1));
+    outcome_note(result, s,
+                 s < FIELD_COUNT ? setting_store(&settings[s], value)
+                                 : update_item(page_state(), name, value, 1));
   }
 }
 
@@ -58,7 +58,7 @@ static void save_features(outcome* result, const cgi_attr* attrs, int32_t count)
   for (uint32_t s = FIELD_COUNT; s < SETTING_COUNT; s++) {
     const char* name = settings[s].name;
     uint32_t flags = checkbox_flags(form_value(attrs, count, name) != NULL, 0);
-    page_note(result, s, wr_checkbox_item(page_state(), name, flags));
+    outcome_note(result, s, wr_checkbox_item(page_state(), name, flags));
   }
 }
 
@@ -68,14 +68,14 @@ static int32_t save(void* context, cgi_attr* attrs, int32_t count, int32_t kind)
     restore_first_values(context);
     return 0;
   }
-  page_store_form(context, attrs, count, settings, FIELD_COUNT, setting_store);
+  outcome_store_form(context, attrs, count, settings, FIELD_COUNT, setting_store);
   if (form_value(attrs, count, "features") != NULL) save_features(context, attrs, count);
   return 0;
 }
 
 static void print_page(const outcome* result) {
   page_begin("network", "Network");
-  page_print_outcome(result, settings, SETTING_COUNT);
+  outcome_print(result, settings, SETTING_COUNT);
   print_str("<p>");
   gen_image("/", "ports.svg", "Ports: one uplink, four local", " width=\"320\" height=\"64\"");
   print_str("</p>\r\n");

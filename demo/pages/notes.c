@@ -4,6 +4,7 @@
  */
 #include <string.h>
 
+#include "shared/origin.h"
 #include "shared/page.h"
 
 enum { NOTE_COUNT = 3, NOTE_CHARACTERS = 100, NOTE_SIZE = 3 * NOTE_CHARACTERS };
@@ -29,7 +30,7 @@ static int32_t save(void* context, cgi_attr* attrs, int32_t count, int32_t kind)
   for (int32_t i = 0; i < count; i++) {
     for (uint32_t n = 0; n < NOTE_COUNT; n++) {
       if (strcmp(attrs[i].name, notes[n].name) != 0) continue;
-      page_note(result, n, store(notes[n].name, attrs[i].value));
+      outcome_note(result, n, store(notes[n].name, attrs[i].value));
       result->told = 1;
     }
   }
@@ -37,8 +38,8 @@ static int32_t save(void* context, cgi_attr* attrs, int32_t count, int32_t kind)
 }
 
 static int32_t read_query(void* context, cgi_attr* attrs, int32_t count, int32_t kind) {
-  page_read_outcome(context, attrs, count, kind);
-  return page_trusts_query() ? save(context, attrs, count, kind) : 0;
+  page_read_query(context, attrs, count, kind);
+  return origin_allows_query() ? save(context, attrs, count, kind) : 0;
 }
 
 static void print_form(const char* method) {
@@ -61,11 +62,11 @@ int main(void) {
   page_guard();
   getcgivars(&result, save, page_is_post() ? NULL : read_query);
   if (page_is_post()) {
-    page_redirect("notes", &result);
+    outcome_redirect(&result, "notes");
     return 0;
   }
   page_begin("notes", "Notes on this device");
-  page_print_outcome(&result, notes, NOTE_COUNT);
+  outcome_print(&result, notes, NOTE_COUNT);
   print_form("post");
   print_form("get");
   page_end();

@@ -50,7 +50,7 @@ static int32_t save(void* context, cgi_attr* attrs, int32_t count, int32_t kind)
     if ((wrong & ROUTE_NETWORK_WRONG) != 0) result->failed |= 1U << NETWORK;
     if ((wrong & ROUTE_GATEWAY_WRONG) != 0) result->failed |= 1U << GATEWAY;
   }
-  page_note(result, LIST, routes_store(&routes));
+  outcome_note(result, LIST, routes_store(&routes));
   return 0;
 }
 
@@ -86,7 +86,7 @@ static void print_list(void) {
 
 static void print_page(const outcome* result) {
   page_begin("routes", "Routes");
-  page_print_outcome(result, settings, SETTING_COUNT);
+  outcome_print(result, settings, SETTING_COUNT);
   print_list();
   print_str("<h2>Add a route</h2>\r\n");
   page_form("routes");
@@ -105,9 +105,9 @@ int main(void) {
   outcome result = {0, 0, 0};
   page_guard();
   routes_read(&routes);
-  getcgivars(&result, save, page_is_post() ? NULL : page_read_outcome);
+  getcgivars(&result, save, page_is_post() ? NULL : page_read_query);
   if (page_is_post()) {
-    page_redirect("routes", &result);
+    outcome_redirect(&result, "routes");
   } else if (page_asks_for("xml")) {
     route_document_print(&routes);
   } else {

@@ -39,11 +39,11 @@ static const setting settings[SETTING_COUNT] = {
 static int32_t save(void* context, cgi_attr* attrs, int32_t count, int32_t kind) {
   uint32_t mask = 0;
   (void)kind;
-  page_store_form(context, attrs, count, settings, SETTING_COUNT, setting_store);
+  outcome_store_form(context, attrs, count, settings, SETTING_COUNT, setting_store);
   for (uint32_t s = RESTART_DAYS; s <= BACKUP_DAYS; s += 2) {
     const char* name = settings[s].name;
     if (!check_group_read(attrs, count, name, DAY_COUNT, &mask)) continue;
-    page_note(context, s, update_item_uint(page_state(), name, mask));
+    outcome_note(context, s, update_item_uint(page_state(), name, mask));
   }
   return 0;
 }
@@ -65,7 +65,7 @@ static void print_cron_line(const setting* time, const setting* days, const char
 
 static void print_page(const outcome* result) {
   page_begin("schedule", "Schedule");
-  page_print_outcome(result, settings, SETTING_COUNT);
+  outcome_print(result, settings, SETTING_COUNT);
   page_form("schedule");
   for (int s = 0; s < SETTING_COUNT; s++) setting_print(&settings[s]);
   page_form_end("Save");

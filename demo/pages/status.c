@@ -84,8 +84,7 @@ static void print_page(void) {
 }
 
 int main(void) {
-  outcome ignored = {0, 0, 0};
-  getcgivars(&ignored, NULL, page_read_outcome);
+  getcgivars(NULL, NULL, page_read_query);
   if (page_asks_for("json")) {
     print_json();
   } else {

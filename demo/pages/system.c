@@ -30,7 +30,7 @@ static int32_t store(const setting* field, const char* text) {
 
 static int32_t save(void* context, cgi_attr* attrs, int32_t count, int32_t kind) {
   (void)kind;
-  page_store_form(context, attrs, count, settings, SETTING_COUNT, store);
+  outcome_store_form(context, attrs, count, settings, SETTING_COUNT, store);
   return 0;
 }
 
@@ -47,7 +47,7 @@ static void print_json(void) {
 
 static void print_page(const outcome* result) {
   page_begin("system", "System");
-  page_print_outcome(result, settings, SETTING_COUNT);
+  outcome_print(result, settings, SETTING_COUNT);
   page_form("system");
   for (int s = 0; s < SETTING_COUNT; s++) setting_print(&settings[s]);
   page_form_end("Save");
@@ -57,9 +57,9 @@ static void print_page(const outcome* result) {
 int main(void) {
   outcome result = {0, 0, 0};
   page_guard();
-  getcgivars(&result, save, page_is_post() ? NULL : page_read_outcome);
+  getcgivars(&result, save, page_is_post() ? NULL : page_read_query);
   if (page_is_post()) {
-    page_redirect("system", &result);
+    outcome_redirect(&result, "system");
   } else if (page_asks_for("json")) {
     print_json();
   } else {

@@ -33,13 +33,13 @@ static const setting settings[SETTING_COUNT] = {
 
 static int32_t save(void* context, cgi_attr* attrs, int32_t count, int32_t kind) {
   (void)kind;
-  page_store_form(context, attrs, count, settings, SETTING_COUNT, setting_store);
+  outcome_store_form(context, attrs, count, settings, SETTING_COUNT, setting_store);
   return 0;
 }
 
 static void print_page(const outcome* result) {
   page_begin("vpn", "VPN");
-  page_print_outcome(result, settings, SETTING_COUNT);
+  outcome_print(result, settings, SETTING_COUNT);
   page_form("vpn");
   for (int s = 0; s < SETTING_COUNT; s++) setting_print(&settings[s]);
   page_form_end("Save");

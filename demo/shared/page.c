@@ -4,8 +4,8 @@
 #include <string.h>
 #include <time.h>
 
-#include "shared/device_log.h"
 #include "shared/form_value.h"
+#include "shared/origin.h"
 
 /* One page a line. */
 /* clang-format off */
@@ -38,57 +38,12 @@ int32_t page_is_post(void) {
   return method != NULL && strcmp(method, "POST") == 0;
 }
 
-/* Whether a URL, or an origin, names this host. */
-static int32_t names_this_host(const char* url) {
-  const char* host = getenv("HTTP_HOST");
-  const char* authority = strstr(url, "://");
-  if (host == NULL || authority == NULL) return 0;
-  authority += 3;
-  size_t length = strlen(host);
-  return strncmp(authority, host, length) == 0 &&
-         (authority[length] == '\0' || authority[length] == '/');
-}
-
-/* Browsers tell the origin of every form they post; what sends none is no browser. */
-static int32_t from_this_site(void) {
-  const char* origin = getenv("HTTP_ORIGIN");
-  return origin == NULL || names_this_host(origin);
-}
-
-int32_t page_trusts_query(void) {
-  const char* referer = getenv("HTTP_REFERER");
-  return referer != NULL && names_this_host(referer);
-}
-
 void page_guard(void) {
-  if (!page_is_post() || from_this_site()) return;
+  if (!page_is_post() || origin_allows_post()) return;
   print_str(
       "Status: 403 Forbidden\r\nContent-Type: text/plain\r\n\r\n"
       "This form was sent by another site. Nothing was stored.\r\n");
   exit(0);
-}
-
-void page_note(outcome* result, uint32_t index, int32_t stored) {
-  if (stored > 0) result->changed |= 1U << index;
-  if (stored < 0) result->failed |= 1U << index;
-}
-
-void page_store_form(outcome* result, const cgi_attr* attrs, int32_t count, const setting* settings,
-                     uint32_t setting_count,
-                     int32_t (*store)(const setting* about, const char* text)) {
-  for (int32_t i = 0; i < count; i++) {
-    for (uint32_t s = 0; s < setting_count; s++) {
-      if (strcmp(attrs[i].name, settings[s].name) != 0) continue;
-      page_note(result, s, store(&settings[s], attrs[i].value));
-    }
-  }
-}
-
-void page_redirect(const char* page, const outcome* result) {
-  if (result->changed != 0) device_log("%s: settings stored", page);
-  if (result->failed != 0) device_log("%s: settings that could not be stored", page);
-  printf("Status: 303 See Other\r\nLocation: %s?changed=%u&failed=%u\r\n\r\n", page,
-         (unsigned)result->changed, (unsigned)result->failed);
 }
 
 static char asked_format[8];
@@ -97,16 +52,11 @@ int32_t page_asks_for(const char* format) {
   return strcmp(asked_format, format) == 0;
 }
 
-int32_t page_read_outcome(void* context, cgi_attr* attrs, int32_t count, int32_t kind) {
-  outcome* result = context;
+int32_t page_read_query(void* context, cgi_attr* attrs, int32_t count, int32_t kind) {
   const char* format = form_value(attrs, count, "format");
-  const char* changed = form_value(attrs, count, "changed");
-  const char* failed = form_value(attrs, count, "failed");
   (void)kind;
   if (format != NULL) strsncpy(asked_format, sizeof asked_format, format);
-  result->changed = str_to_uint(changed);
-  result->failed = str_to_uint(failed);
-  result->told = changed != NULL || failed != NULL;
+  if (context != NULL) outcome_read(context, attrs, count);
   return 0;
 }
 
@@ -163,28 +113,6 @@ void page_begin(const char* page, const char* title) {
   page_begin_scripted(page, title, NULL);
 }
 
-static void print_labels(const char* lead, uint32_t bits, const setting* settings, uint32_t count) {
-  const char* separator = lead;
-  for (uint32_t i = 0; i < count; i++) {
-    if ((bits >> i & 1) == 0) continue;
-    print_str(separator);
-    html_print_text(settings[i].label);
-    separator = ", ";
-  }
-  if (separator != lead) print_str(". ");
-}
-
-void page_print_outcome(const outcome* result, const setting* settings, uint32_t count) {
-  if (!result->told) return;
-  printf("<p class=\"%s\" role=\"status\">", result->failed != 0 ? "note failed" : "note");
-  print_labels("Saved: ", result->changed, settings, count);
-  print_labels("Could not be saved: ", result->failed, settings, count);
-  if (result->changed == 0 && result->failed == 0) {
-    print_str("Nothing has changed: all settings are as they were.");
-  }
-  print_str("</p>\r\n");
-}
-
 void page_form(const char* page) {
   printf("<form method=\"post\" action=\"%s\">\r\n", page);
 }
@@ -217,9 +145,9 @@ void page_end(void) {
 int page_run(const char* page, cgi_handler save, void (*print_page)(const outcome* result)) {
   outcome result = {0, 0, 0};
   page_guard();
-  getcgivars(&result, save, page_is_post() ? NULL : page_read_outcome);
+  getcgivars(&result, save, page_is_post() ? NULL : page_read_query);
   if (page_is_post()) {
-    page_redirect(page, &result);
+    outcome_redirect(&result, page);
   } else {
     print_page(&result);
   }

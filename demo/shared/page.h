@@ -1,23 +1,14 @@
 /*
- * What all pages of the demo device share: where its state lies, the frame around a page's content,
- * the guard against forms of other sites, and the way a save is told.
+ * What all pages of the demo device share: where its state lies, the guard against forms of other
+ * sites, and the frame around a page's content and its forms.
  *
  * A page with a form runs like this: page_guard(), getcgivars(), and then, on a POST,
- * page_redirect(), so that a reload does not send the form again, or else page_begin(), its content
- * and page_end().
+ * outcome_redirect(), or else page_begin(), outcome_print(), its content and page_end().
  */
 #ifndef DEMO_PAGE_H
 #define DEMO_PAGE_H
 
-#include "shared/setting.h"
-
-/* What became of a form: a bit for each setting of its table, the first is bit 0. */
-typedef struct outcome outcome;
-struct outcome {
-  uint32_t changed;
-  uint32_t failed;
-  int32_t told; /* whether a redirect brought this outcome */
-};
+#include "shared/outcome.h"
 
 /* The folder of what pages inline, from where a server starts them. */
 #define PAGE_ASSETS "../../assets"
@@ -30,30 +21,10 @@ void page_guard(void);
 
 int32_t page_is_post(void);
 
-/*
- * Whether the query of a GET was sent by a page of this device, so that it may store something.
- * Browsers tell no origin here, but the referring page, unless another site hides it.
- */
-int32_t page_trusts_query(void);
+/* A handler for the query of a page; the context is the outcome that is to be told, or null. */
+int32_t page_read_query(void* context, cgi_attr* attrs, int32_t count, int32_t kind);
 
-/* Notes the result of an update function for the setting with this index. */
-void page_note(outcome* result, uint32_t index, int32_t stored);
-
-/*
- * Calls store(setting, value) for each value of a form that has the name of a setting, in the
- * form's order, and notes the results. setting_store() stores each as its control does.
- */
-void page_store_form(outcome* result, const cgi_attr* attrs, int32_t count, const setting* settings,
-                     uint32_t setting_count,
-                     int32_t (*store)(const setting* about, const char* text));
-
-/* Answers a POST: the browser gets the page again, which tells the outcome. The log has it too. */
-void page_redirect(const char* page, const outcome* result);
-
-/* A handler for the query that page_redirect() made; the context is an outcome. */
-int32_t page_read_outcome(void* context, cgi_attr* attrs, int32_t count, int32_t kind);
-
-/* Whether the query that page_read_outcome() got asks for this format instead of the page. */
+/* Whether the query asks for this format instead of the page. */
 int32_t page_asks_for(const char* format);
 
 /* Prints all that stands ahead of a page's content. */
@@ -61,9 +32,6 @@ void page_begin(const char* page, const char* title);
 
 /* The same with a script of the demo's assets inlined. */
 void page_begin_scripted(const char* page, const char* title, const char* script);
-
-/* Tells in words what a save did, if there was one. */
-void page_print_outcome(const outcome* result, const setting* settings, uint32_t count);
 
 /* A form of a page, which ends with a button. */
 void page_form(const char* page);
