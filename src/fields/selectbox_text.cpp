@@ -77,8 +77,9 @@ uint32_t gen_selectbox_text(const select_state* state, const char* name, selectb
                             selectbox_callback callback, uintptr_t arg, const char* attributes) {
   if (state == nullptr || row == nullptr) return PF_DISABLED;
   TextContext context = {row, callback, attributes, *state};
-  gen_selectbox_class(&context, name, selectbox_text_class, arg, tavik::kMostOptions, state->flags);
-  return state->flags;
+  gen_selectbox_class(&context, name, selectbox_text_class, arg, tavik::kMostOptions,
+                      context.state.flags);
+  return context.state.flags;
 }
 
 int32_t scan_select_text(const char* text, select_state* state, selectbox_text_row row,

@@ -56,7 +56,7 @@ int32_t textbox_filter_ip6prefix(uint32_t /*position*/, uint32_t character) {
 }
 
 int32_t textbox_filter_octet(uint32_t position, uint32_t character) {
-  return character <= 0x7F && !(position == 0 && character == ' ');
+  return is_in_range(character, 0x01, 0x7F) && !(position == 0 && character == ' ');
 }
 
 int32_t textbox_filter_ppp_username(uint32_t position, uint32_t character) {
@@ -69,7 +69,7 @@ int32_t textbox_filter_ppp_password(uint32_t position, uint32_t character) {
 }
 
 int32_t textbox_filter_shell_quoted(uint32_t /*position*/, uint32_t character) {
-  return !is_one_of(character, "$\\'\"`");
+  return character != 0 && !is_one_of(character, "$\\'\"`");
 }
 
 int32_t textbox_filter_smtp(uint32_t position, uint32_t character) {
