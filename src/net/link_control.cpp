@@ -32,6 +32,7 @@ class Phy {
 
  private:
   bool transfer(unsigned long operation, mii_ioctl_data* data) const {
+    if (!query_.is_open()) return false;
     struct ifreq request = request_;
     memcpy(&request.ifr_ifru, data, sizeof *data);
     if (ioctl(query_.get(), operation, &request) < 0) return false;
