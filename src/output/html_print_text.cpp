@@ -1,6 +1,22 @@
 #include "output/html_encode.h"
 #include "tavik.h"
 
+namespace {
+
+// Prints bytes that are their own escapes. One that cannot be written is lost, not those behind it.
+uint32_t print_plain(const char* text, uint32_t length) {
+  uint32_t written = print_mem(text, length);
+  for (uint32_t passed = written; passed < length;) {
+    ++passed;
+    const uint32_t more = print_mem(text + passed, length - passed);
+    written += more;
+    passed += more;
+  }
+  return written;
+}
+
+}  // namespace
+
 uint32_t html_print_ucs2(uint32_t character) {
   char escape[tavik::kLongestEscape];
   return print_mem(escape, tavik::html_encode_ucs2(escape, character));
@@ -11,7 +27,7 @@ uint32_t html_print_text(const char* text) {
   uint32_t written = 0;
   while (*text != '\0') {
     const uint32_t run = tavik::plain_run(text, UINT32_MAX);
-    written += print_mem(text, run);
+    written += print_plain(text, run);
     text += run;
     if (*text != '\0') written += html_print_ucs2(utf8_to_ucs2(&text, UINT32_MAX));
   }
@@ -23,7 +39,7 @@ uint32_t html_print_text_limit(uint32_t characters, const char* text, uint32_t b
   uint32_t written = 0;
   while (characters > 0 && bytes > 0 && *text != '\0') {
     const uint32_t run = tavik::plain_run(text, characters < bytes ? characters : bytes);
-    written += print_mem(text, run);
+    written += print_plain(text, run);
     characters -= run;
     bytes -= run;
     text += run;
