@@ -28,7 +28,7 @@ add_dependencies(unit ${pages_targets} ${guide_targets})
 list(JOIN CMAKE_CROSSCOMPILING_EMULATOR " " emulator)
 target_compile_definitions(unit PRIVATE
   TEST_PAGES="${CMAKE_CURRENT_BINARY_DIR}/pages" TEST_EMULATOR="${emulator}"
-  TEST_GUIDE="${guide}")
+  TEST_GUIDE="${guide}" TEST_SOURCES="${CMAKE_CURRENT_SOURCE_DIR}")
 target_link_libraries(unit PRIVATE test_options tavik::harness)
 gtest_discover_tests(unit DISCOVERY_MODE PRE_TEST)
 
