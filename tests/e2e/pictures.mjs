@@ -3,17 +3,12 @@ import { openBrowser } from './lib/browser.mjs';
 import { startDevice } from './lib/server.mjs';
 
 const folder = process.argv[2] ?? '../../docs/pictures';
-const shots = [
-  { page: 'system', name: 'system', width: 900, height: 560 },
-];
-
 const device = await startDevice();
 const browser = await openBrowser();
-for (const { page: name, name: file, width, height, scheme = 'light' } of shots) {
-  const page = await browser.newPage({ viewport: { width, height }, colorScheme: scheme });
+for (const [name, width, height] of [['system', 900, 560]]) {
+  const page = await browser.newPage({ viewport: { width, height } });
   await page.goto(`${device.url}/cgi-bin/${name}`);
-  await page.screenshot({ path: `${folder}/${file}.png` });
-  await page.close();
+  await page.screenshot({ path: `${folder}/${name}.png` });
 }
 await browser.close();
 await device.stop();
