@@ -118,6 +118,7 @@ TEST(Certificates, AreSavedAndStoredByName) {
   }
   EXPECT_EQ(update_cert_item(dir.c_str(), "item", "YS5wZW1zeA==", INT32_MAX), 8);
   EXPECT_EQ(update_cert_item(dir.c_str(), "item", nullptr, 5), -1);
+  EXPECT_EQ(save_selectbox_cert(nullptr, 5, "YS5w"), 0);
 }
 
 }  // namespace

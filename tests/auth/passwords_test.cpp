@@ -66,6 +66,7 @@ TEST(Passwords, AreHashedAsOthersDo) {
     for (const int32_t length : {35, 33, 3, -34}) EXPECT_EQ(crypt_detect(text.c_str(), length), 0);
   }
   EXPECT_EQ(crypt_detect("$1$", 34), 0);
+  EXPECT_TRUE(crypt_cmp(0, nullptr, "a") != 0 && crypt_cmp(0, "a", nullptr) != 0);
 }
 
 TEST(Passwords, SaltComesFromSeedProcessAndTime) {

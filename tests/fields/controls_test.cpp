@@ -17,18 +17,18 @@ int32_t icon(uint32_t flags) {
 }
 
 void numbers() {
-  const uint32_t five = 5, same = 5, seven = 7;
+  const uint32_t five = 5, same = 5, seven = 7, *const none = nullptr;
   line(gen_xcheckbox(PF_CHECKED, " name=%s", "<n>"));
   line(gen_radio("<", ~0U, ~0U, nullptr, 0));
   line(gen_radio(nullptr, 2, 3, " id=&%s", PF_CHECKED));
   line(gen_numberbox("<n>", 5, 3, ~0U, PF_READONLY));
   line(gen_xnumberbox(3, ~0U, PF_DISABLED, " name=%s", "<n>"));
   line(gen_xrangebox(9, &five, &seven, "<5", PF_DISABLED, " x=%s", "<"));
-  line(gen_xrangebox(9, &five, &seven, nullptr, PF_READONLY, nullptr));
-  line(gen_xrangebox(9, &five, &same, nullptr, 0, nullptr));
-  line(gen_xrangebox(9, &five, nullptr, nullptr, 0, nullptr));
-  line(gen_xrangebox(9, nullptr, &seven, nullptr, 0, nullptr));
-  line(gen_xrangebox(9, nullptr, nullptr, nullptr, 0, nullptr));
+  for (const uint32_t* first : {&five, none}) {
+    for (const uint32_t* last : {&seven, &same, none}) {
+      line(gen_xrangebox(9, first, last, nullptr, PF_READONLY, nullptr));
+    }
+  }
 }
 
 void addresses() {
@@ -48,26 +48,19 @@ void addresses() {
 }
 
 void texts() {
-  const uint32_t masked = PF_MASKED | PF_READONLY, off = masked | PF_DISABLED;
+  const char* const none = nullptr;
   line(gen_radio_string("m", "a&", "a&", nullptr, 0));
   line(gen_radio_string("m", "a", "A", " id", PF_DISABLED));
   line(gen_radio_string(nullptr, "", nullptr, nullptr, PF_CHECKED));
   line(gen_radio_string("m", nullptr, "", nullptr, 0));
-  line(gen_xtextbox(32, "abc", PF_SIZE, " name=\"%s%c\"", "<", 'h'));
-  line(gen_xtextbox(8, "<\"\u00E9", PF_DATA_VALUE, nullptr));
-  line(gen_xtextbox(8, "ab", PF_PASSWORD, nullptr));
-  line(gen_xtextbox(8, "a", masked | PF_PASSWORD | PF_DATA_VALUE, nullptr));
-  line(gen_xtextbox(4, "abc", off | PF_DATA_VALUE, nullptr));
-  line(gen_xtextbox(-9, "abc", PF_SIZE, nullptr));
-  line(gen_xtextbox(-1, "a\u20AC", off, nullptr));
-  line(gen_xtextbox(-1, "ab\377z", masked, nullptr));
-  line(gen_xtextbox(-1, nullptr, off, nullptr));
-  line(gen_xtextbox(0, "abc", 0, nullptr));
-  line(gen_xtextbox(4, nullptr, 0, nullptr));
-  line(gen_xtextbox(4, nullptr, masked | PF_DATA_VALUE | PF_SIZE, nullptr));
-  line(gen_xtextbox(2, "\u20AC\u20AD\u20AE", 0, nullptr));
-  line(gen_xtextbox(1, "\u20AC\u20AD", masked | PF_DATA_VALUE, nullptr));
-  line(gen_xtextbox(5, "ab\377z", 0, nullptr));
+  for (const char* value : {"<\u20AC\u00E9", "a\377z", "", none}) {
+    for (const int32_t maximum : {-1, 0, 2, 9}) {
+      line(gen_xtextbox(maximum, value, PF_SIZE, " name=\"%s%c\"", "<", 'h'));
+      line(gen_xtextbox(maximum, value, PF_PASSWORD | PF_DATA_VALUE, nullptr));
+      line(gen_xtextbox(maximum, value, PF_MASKED | PF_READONLY | PF_SIZE, nullptr));
+      line(gen_xtextbox(maximum, value, PF_MASKED | PF_DISABLED | PF_DATA_VALUE, nullptr));
+    }
+  }
   gen_textarea("a\nb</textarea>", 0, nullptr), line();
   gen_textarea(nullptr, PF_DISABLED, " name=%s", "<n>"), line();
 }
