@@ -2,12 +2,9 @@
 // umask, a namespace, a stream that no longer works.
 #pragma once
 
-#include <sys/mman.h>
 #include <sys/wait.h>
-#include <unistd.h>
 
 #include <cstdio>
-#include <string>
 
 #include "support/capture.h"
 
@@ -21,18 +18,17 @@ struct ChildAnswer {
 template <typename Body>
 ChildAnswer in_child(Body body) {
   fflush(nullptr);
-  const int file = memfd_create("child", MFD_CLOEXEC);
+  const InputFile file;
   const pid_t child = fork();
   if (child == 0) {
-    dup2(file, STDOUT_FILENO);
-    dup2(file, STDERR_FILENO);
+    dup2(file.fd(), STDOUT_FILENO);
+    dup2(file.fd(), STDERR_FILENO);
     setvbuf(stdout, nullptr, _IONBF, 0);
-    const int status = body();
-    _exit(status);
+    _exit(body());
   }
   int status = 0;
   waitpid(child, &status, 0);
-  return {take_text(file), WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status)};
+  return {file.bytes(), WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status)};
 }
 
 }  // namespace test

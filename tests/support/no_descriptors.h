@@ -13,8 +13,7 @@ class NoDescriptors {
     setrlimit(RLIMIT_NOFILE, &none);
   }
   ~NoDescriptors() { setrlimit(RLIMIT_NOFILE, &before_); }
-  NoDescriptors(const NoDescriptors&) = delete;
-  NoDescriptors& operator=(const NoDescriptors&) = delete;
+  NoDescriptors& operator=(NoDescriptors&&) = delete;
 
  private:
   struct rlimit before_ {};

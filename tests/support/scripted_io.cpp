@@ -7,34 +7,18 @@
 #include <cerrno>
 #include <cstring>
 
-namespace {
-
-struct Script {
-  int fd = -1;
-  std::vector<test::Answer> answers;
-  size_t calls = 0;
-  const char* text = nullptr;  // of the latest answer
-} script;
-
-// How many bytes the call may move; negative with errno set if it is to fail.
-ssize_t allowed(int fd, size_t count) {
-  if (fd != script.fd) return static_cast<ssize_t>(count);
-  const size_t call = script.calls++;
-  script.text = nullptr;
-  if (call >= script.answers.size()) return static_cast<ssize_t>(count);
-  const test::Answer& answer = script.answers[call];
-  script.text = answer.text;
+test::Answer test::ScriptedIo::next(int fd, size_t count) {
+  const auto all = static_cast<ssize_t>(count);
+  if (fd != fd_ || calls_++ >= answers_.size()) return {0, all};
+  Answer answer = answers_[calls_ - 1];
+  answer.most = answer.error != 0 ? -1 : std::min(answer.most, all);
   errno = answer.error;
-  if (answer.error != 0) return -1;
-  return std::min(answer.most, static_cast<ssize_t>(count));
+  return answer;
 }
 
-}  // namespace
-
 extern "C" ssize_t read(int fd, void* buffer, size_t count) {
-  const ssize_t length = allowed(fd, count);
+  const auto [error, length, text] = test::ScriptedIo::next(fd, count);
   if (length <= 0 && count > 0) return length;
-  const char* const text = fd == script.fd ? script.text : nullptr;
   if (text == nullptr) return syscall(SYS_read, fd, buffer, length);
   memcpy(buffer, text, static_cast<size_t>(length));
   return length;
@@ -45,20 +29,6 @@ extern "C" ssize_t __read_chk(int fd, void* buffer, size_t count, size_t) {
 }
 
 extern "C" ssize_t write(int fd, const void* buffer, size_t count) {
-  const ssize_t length = allowed(fd, count);
+  const ssize_t length = test::ScriptedIo::next(fd, count).most;
   return length <= 0 && count > 0 ? length : syscall(SYS_write, fd, buffer, length);
 }
-
-namespace test {
-
-ScriptedIo::ScriptedIo(int fd, std::vector<Answer> answers) {
-  script = {fd, std::move(answers), 0, nullptr};
-}
-ScriptedIo::~ScriptedIo() {
-  script = {};
-}
-int ScriptedIo::calls() const {
-  return static_cast<int>(script.calls);
-}
-
-}  // namespace test

@@ -13,10 +13,11 @@ class ScriptedIoctl {
  public:
   using Device = std::function<std::optional<int>(int fd, unsigned long request, void* argument)>;
 
-  explicit ScriptedIoctl(Device device);
-  ~ScriptedIoctl();
-  ScriptedIoctl(const ScriptedIoctl&) = delete;
-  ScriptedIoctl& operator=(const ScriptedIoctl&) = delete;
+  explicit ScriptedIoctl(Device device) { present = std::move(device); }
+  ~ScriptedIoctl() { present = nullptr; }
+  ScriptedIoctl& operator=(ScriptedIoctl&&) = delete;
+
+  static inline Device present;
 };
 
 }  // namespace test

@@ -20,8 +20,7 @@ class TempDir {
     path_ = mkdtemp(pattern.data());
   }
   ~TempDir() { std::filesystem::remove_all(path_); }
-  TempDir(const TempDir&) = delete;
-  TempDir& operator=(const TempDir&) = delete;
+  TempDir& operator=(TempDir&&) = delete;
 
   const char* c_str() const { return path_.c_str(); }
   std::string path(const std::string& name) const { return path_ + "/" + name; }
