@@ -50,19 +50,14 @@ TEST(CheckUcs2ToGsm, KnowsTheStandardsAlphabetWithItsOwnDeviations) {
 TEST(GetInfoflags, LetsTheByteAtThePositionDecide) {
   const infoflag_row rows[] = {{1, 0}, {2, 1}, {0, 0}};
   const infoflag_row odd[] = {{0x30, 2}, {0x80, -1}, {0, 0}};
-  const struct {
-    uint32_t flags;
-    const infoflag_row* table;
-    const char *first, *second;
-    uint32_t expected;
-  } cases[] = {
+  const std::tuple<uint32_t, const infoflag_row*, const char*, const char*, uint32_t> cases[] = {
       {3, rows, "10", nullptr, 1},    {3, rows, "1", nullptr, 1},    {3, rows, "1", "01", 3},
       {7, rows, "/\xFF", "11", 6},    {7, rows, "1", "1", 5},        {7, rows, nullptr, "11", 0},
       {7, rows, "", "11", 0},         {0, rows, "11", nullptr, 0},   {7, nullptr, "0", nullptr, 7},
       {7, rows + 2, "0", nullptr, 7}, {0xFF, odd, "001", "1", 0x7F}, {0xFF, odd, "0", "00", 0x4F},
   };
-  for (const auto& c : cases) {
-    EXPECT_EQ(get_infoflags(c.flags, c.table, c.first, c.second), c.expected) << c.first;
+  for (const auto& [flags, table, first, second, expected] : cases) {
+    EXPECT_EQ(get_infoflags(flags, table, first, second), expected) << first;
   }
 }
 
