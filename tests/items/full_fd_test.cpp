@@ -1,101 +1,56 @@
-#include <fcntl.h>
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include <cerrno>
 
+#include "support/input_file.h"
 #include "support/scripted_io.h"
-#include "support/temp_dir.h"
 #include "tavik.h"
 
 namespace {
 
-using test::Answer;
+using test::InputFile;
 using test::ScriptedIo;
-using test::TempDir;
 
-// A file of ten bytes, open for reading, and one that is empty, open for writing.
-class FullFd : public testing::Test {
- protected:
-  FullFd() {
-    dir_.put("in", "0123456789");
-    in_ = open(dir_.path("in").c_str(), O_RDONLY);
-    out_ = open(dir_.path("out").c_str(), O_WRONLY | O_CREAT, 0600);
-  }
-  ~FullFd() override {
-    close(in_);
-    close(out_);
-  }
-  TempDir dir_;
-  int in_;
-  int out_;
-};
-
-TEST_F(FullFd, ReadGoesOnThroughShortReadsAndInterruptions) {
+TEST(FullFd, GoesOnThroughShortTransfersInterruptionsAndZeroes) {
   const struct {
-    std::vector<Answer> answers;
+    bool writes;
+    std::vector<test::Answer> answers;
     int32_t count, result;
     int calls;
+    const char* moved;
   } cases[] = {
-      {{}, 10, 10, 1},
-      {{}, 11, 10, 2},
-      {{}, 0, 0, 0},
-      {{}, -5, 0, 0},
-      {{{0, 3}, {0, 4}}, 10, 10, 3},
-      {{{EINTR}, {0, 1}, {EINTR}, {EINTR}}, 10, 10, 5},
-      {{{0, 3}, {0, 0}}, 10, 3, 2},
-      {{{0, 3}, {EIO}}, 10, -1, 2},
+      {false, {}, 11, 10, 2, "0123456789"},
+      {false, {}, -5, 0, 0, ""},
+      {false, {{EINTR}, {0, 1}, {EINTR}, {EINTR}}, 10, 10, 5, "0123456789"},
+      {false, {{0, 3}, {0, 0}}, 10, 3, 2, "012"},
+      {false, {{0, 3}, {EIO}}, 10, -1, 2, "012"},
+      {true, {}, -1, 0, 0, ""},
+      {true, {{0, 2}, {0, 0}, {EINTR}, {0, 1}}, 5, 5, 5, "01234"},
+      {true, {{0, 2}, {ENOSPC}}, 5, -1, 2, "01"},
   };
   for (const auto& c : cases) {
+    const InputFile file(c.writes ? "" : "0123456789");
     char buffer[16] = "";
-    lseek(in_, 0, SEEK_SET);
-    const ScriptedIo io(in_, c.answers);
-    EXPECT_EQ(full_read_fd(in_, buffer, c.count), c.result);
+    const ScriptedIo io(file.fd(), c.answers);
+    EXPECT_EQ(c.writes ? full_write_fd(file.fd(), "0123456789", c.count)
+                       : full_read_fd(file.fd(), buffer, c.count),
+              c.result);
     EXPECT_EQ(io.calls(), c.calls);
-    if (c.result > 0) {
-      EXPECT_EQ(std::string(buffer), std::string("0123456789", static_cast<size_t>(c.result)));
-    }
+    EXPECT_EQ(c.writes ? file.bytes() : buffer, c.moved);
   }
 }
 
-TEST_F(FullFd, WriteGoesOnThroughShortWritesInterruptionsAndZeroes) {
-  const struct {
-    std::vector<Answer> answers;
-    int32_t count, result;
-    int calls;
-    std::string file;
-  } cases[] = {
-      {{}, 5, 5, 1, "abcde"},
-      {{}, 0, 0, 0, ""},
-      {{}, -1, 0, 0, ""},
-      {{{0, 2}, {0, 0}, {EINTR}, {0, 1}}, 5, 5, 5, "abcde"},
-      {{{0, 2}, {ENOSPC}}, 5, -1, 2, "ab"},
-  };
-  for (const auto& c : cases) {
-    ASSERT_EQ(ftruncate(out_, 0), 0);
-    lseek(out_, 0, SEEK_SET);
-    const ScriptedIo io(out_, c.answers);
-    EXPECT_EQ(full_write_fd(out_, "abcde", c.count), c.result);
-    EXPECT_EQ(io.calls(), c.calls);
-    EXPECT_EQ(dir_.get("out"), c.file);
+TEST(FullFd, CopyMovesTheRestInStepsOf4096) {
+  const InputFile to;
+  for (const int size : {0, 1, 4095, 4096, 4097, 10000}) {
+    const InputFile from(std::string(static_cast<size_t>(size), 'x')), copy;
+    const ScriptedIo io(copy.fd(), {});
+    EXPECT_EQ(full_copy_fd(from.fd(), copy.fd()), size);
+    EXPECT_EQ(io.calls(), (size + 4095) / 4096);
+    EXPECT_EQ(copy.bytes(), from.bytes());
   }
-}
-
-TEST_F(FullFd, CopyMovesTheRestInStepsOf4096) {
-  for (const size_t size : {0, 1, 4095, 4096, 4097, 10000}) {
-    const std::string bytes(size, 'x');
-    dir_.put("in", bytes);
-    const int in = open(dir_.path("in").c_str(), O_RDONLY);
-    const int out = open(dir_.path("out").c_str(), O_WRONLY | O_TRUNC);
-    const ScriptedIo io(out, {});
-    EXPECT_EQ(full_copy_fd(in, out), static_cast<int32_t>(size));
-    EXPECT_EQ(io.calls(), static_cast<int>((size + 4095) / 4096));
-    EXPECT_EQ(dir_.get("out"), bytes);
-    close(in);
-    close(out);
-  }
-  EXPECT_EQ(full_copy_fd(-1, out_), -1);
-  EXPECT_EQ(full_copy_fd(in_, -1), -1);
+  EXPECT_EQ(full_copy_fd(-1, to.fd()), -1);
+  EXPECT_EQ(full_copy_fd(InputFile("x").fd(), -1), -1);
 }
 
 }  // namespace
