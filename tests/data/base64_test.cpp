@@ -10,7 +10,8 @@ TEST(Base64, GoesBothWaysWithinTheRoomThereIs) {
       {"Zm9vYg==", 3, -2, "foo###"},
       {"Zm9vZm9v=a", 5, -2, "foo###"},  // the first fault counts
       {{"Zm\0 9\t-v_", 9}, 6, 3, "foo###"},
-      {"Zm9v=", 6, -1, "foo###"}};
+      {"Zm9v=", 6, -1, "foo###"},
+      {"", 6, 0, "######"}};
   for (const auto& [text, room, result, bytes] : cases) {
     std::string out(6, '#');
     const auto length = static_cast<int32_t>(text.size());

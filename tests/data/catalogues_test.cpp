@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
-#include <map>
-
+#include "support/rows.h"
 #include "tavik.h"
 
 namespace {
@@ -65,11 +64,10 @@ TEST(GetDevinfo, TakesTheFirstRowThatIsHighEnough) {
   int used = 0;
   devinfo_row rows[7] = {};
   for (const int32_t code : {10, 30, -5, 20, 200, 0, 255}) rows[used++].code = code;
-  for (const auto& [key, row] :
-       std::map<int, int>{{0, 0}, {5, 0}, {10, 0}, {11, 1}, {30, 1}, {31, 4}, {200, 4}, {201, 0}}) {
-    const char text[] = {static_cast<char>(key), '\1', '\0'};
-    EXPECT_EQ(get_devinfo(rows, text), rows + row) << key;
-  }
+  test::expect_rows("0=0|5=0|10=0|11=1|30=1|31=4|200=4|201=0", [&](const char* key) {
+    const char text[] = {static_cast<char>(atoi(key)), '\1', '\0'};
+    return get_devinfo(rows, text) - rows;
+  });
   EXPECT_EQ(get_devinfo(rows, nullptr), rows);
   EXPECT_EQ(get_devinfo(rows + 5, "\1"), rows + 5);
 }

@@ -2,6 +2,7 @@
 
 #include "support/input_file.h"
 #include "support/page_process.h"
+#include "support/rows.h"
 #include "support/scripted_io.h"
 #include "tavik.h"
 
@@ -20,14 +21,12 @@ class XmlData : public testing::Test {
 };
 
 TEST_F(XmlData, GrowsInStepsToTheSmallestThatFits) {
-  const std::tuple<int32_t, uint32_t, uint32_t> steps[] = {{0, 0, 1024},       {-1, 0, 1024},
-                                                           {1024, 1024, 1024}, {1, 1025, 2048},
-                                                           {-9, 1025, 2048},   {6143, 7168, 7168}};
-  for (const auto& [added, length, capacity] : steps) {
-    xml_data_append(&doc_, nullptr, added);
-    EXPECT_EQ(string(doc_.buffer, doc_.length), string(length, '\0'));
-    EXPECT_EQ(doc_.capacity, capacity) << length;
-  }
+  test::expect_rows("0=0 1024|-1=0 1024|1024=1024 1024|1=1025 2048|-9=1025 2048|6143=7168 7168",
+                    [&](const char* added) {
+                      xml_data_append(&doc_, nullptr, atoi(added));
+                      EXPECT_EQ(string(doc_.buffer, doc_.length), string(doc_.length, '\0'));
+                      return test::joined(doc_.length, doc_.capacity);
+                    });
   // A document that would pass 4 GiB fails as if memory had run out.
   doc_.length = UINT32_MAX - 1;
   xml_data_str(&doc_, "ab");
@@ -36,14 +35,13 @@ TEST_F(XmlData, GrowsInStepsToTheSmallestThatFits) {
 }
 
 TEST_F(XmlData, WritesTagsByForm) {
-  const char* const named[] = {"<n", "<n>", "<n>\n", "<n", "</n>\n", "<n/>\n", "<n"};
-  const char* const unnamed[] = {"", ">", ">\n", "", ">\n", "/>\n", ""};
-  for (int32_t form = -1; form <= 5; ++form) {
-    xml_data_tag(&doc_, "n", form);
-    EXPECT_EQ(text(), named[form + 1]) << form;
-    xml_data_tag(&doc_, nullptr, form);
-    EXPECT_EQ(text(), unnamed[form + 1]) << form;
-  }
+  test::expect_rows("-1=<n |0=<n> >|1=<n>\n >\n|2=<n |3=</n>\n >\n|4=<n/>\n />\n|5=<n ",
+                    [&](const char* form) {
+                      xml_data_tag(&doc_, "n", atoi(form));
+                      xml_data_str(&doc_, " ");
+                      xml_data_tag(&doc_, nullptr, atoi(form));
+                      return text();
+                    });
 }
 
 TEST_F(XmlData, IsReadBackByAParser) {

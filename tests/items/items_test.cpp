@@ -8,6 +8,7 @@
 #include <cstring>
 
 #include "support/input_file.h"
+#include "support/rows.h"
 #include "support/scripted_io.h"
 #include "support/temp_dir.h"
 #include "tavik.h"
@@ -123,39 +124,31 @@ TEST_F(Items, AreStoredInOtherForms) {
 }
 
 TEST_F(Items, HoldNumbers) {
-  // Read without a sign, with one, and as a result.
-  const std::tuple<const char*, uint32_t, int32_t, int32_t> cases[] = {
-      {"12abc", 12, 12, 12},
-      {"-5", 0, -5, 0},
-      {" 5", 0, 0, 0},
-      {"", 77, 77, 0},
-      {"2147483647", 0x7FFFFFFF, 0x7FFFFFFF, 0x7FFFFFFF},
-      {"2147483648", 0x80000000, INT32_MIN, 0x7FFFFFFF},
-      {"4294967299", 3, 3, 3},
-      {"10000000000000012345", 276447232, 276447232, 276447232}};
-  for (const auto& [text, plain, with_sign, result] : cases) {
-    SCOPED_TRACE(text);
+  // Read without a sign, by a format, with a sign, and as a result.
+  const auto read = [&](const char* text) {
     dir.put("n", text);
-    const auto length = static_cast<int32_t>(std::min<size_t>(strlen(text), 15));
     uint32_t number = 77, formatted = 77;
-    int32_t signed_number = 77;
-    EXPECT_EQ(read_item_uint(in, "n", &number), length);
-    EXPECT_EQ(read_item_uint_fmt(&formatted, "%s/%c", in, 'n'), length);
-    EXPECT_EQ(read_item_sint(in, "n", &signed_number), length);
-    EXPECT_EQ(std::tuple(number, formatted, signed_number), std::tuple(plain, plain, with_sign));
-    EXPECT_EQ(read_item_uint(in, "n", nullptr), result);
-    EXPECT_EQ(read_item_sint(in, "n", nullptr), length);
-  }
+    int32_t with_sign = 77;
+    const int32_t lengths[] = {
+        read_item_uint(in, "n", &number), read_item_uint_fmt(&formatted, "%s/%c", in, 'n'),
+        read_item_sint(in, "n", &with_sign), read_item_sint(in, "n", nullptr)};
+    EXPECT_THAT(lengths, testing::Each(std::min<size_t>(strlen(text), 15)));
+    return test::joined(number, formatted, with_sign, read_item_uint(in, "n", nullptr));
+  };
+  test::expect_rows(
+      "12abc=12 12 12 12|-5=0 0 -5 0| 5=0 0 0 0|=77 77 77 0|4294967299=3 3 3 3|"
+      "2147483647=2147483647 2147483647 2147483647 2147483647|"
+      "2147483648=2147483648 2147483648 -2147483648 2147483647|"
+      "10000000000000012345=276447232 276447232 276447232 276447232",
+      read);
   const auto doubled = [](uint32_t value) { return static_cast<int32_t>(value * 2); };
   EXPECT_EQ(call_uint(in, "n", doubled), 552894464);
   EXPECT_EQ(call_uint(in, "n", nullptr), -2);
   dir.put("n", "");
   EXPECT_EQ(call_uint(in, "n", doubled), -2) << "UINT32_MAX doubled";
-  const std::pair<const char*, uint32_t> truths[] = {
-      {"TRUE", 1}, {"true", 1}, {"False", 0}, {"2", 1},          {"0", 0},
-      {"yes", 0},  {"", 0},     {"true ", 0}, {"4294967296", 0}, {nullptr, 0}};
-  for (const auto& [text, value] : truths) EXPECT_EQ(bool_to_uint(text), value);
-  EXPECT_EQ(str_to_uint(nullptr) + static_cast<uint32_t>(str_to_sint(nullptr)), 0U);
+  test::expect_rows("TRUE=1|true=1|False=0|2=1|0=0|yes=0|=0|true =0|4294967296=0", bool_to_uint);
+  EXPECT_EQ(test::joined(str_to_uint(nullptr), str_to_sint(nullptr), bool_to_uint(nullptr)),
+            "0 0 0");
 }
 
 TEST_F(Items, FailAtTheirAddress) {

@@ -1,4 +1,5 @@
 #include <arpa/inet.h>
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <linux/mii.h>
 #include <linux/sockios.h>
@@ -7,6 +8,7 @@
 
 #include "support/capture.h"
 #include "support/no_descriptors.h"
+#include "support/rows.h"
 #include "support/scripted_io.h"
 #include "support/scripted_ioctl.h"
 #include "tavik.h"
@@ -152,56 +154,48 @@ struct Phy {
     const string name = static_cast<ifreq*>(argument)->ifr_name;
     const bool there = name == "eth0" && mii.phy_id == 3 && mii.reg_num < 2;
     if (!there || accesses-- <= 0) return -1;
-    const string number = std::to_string(mii.reg_num);
-    if (request == SIOCGMIIREG) {
-      log += "r" + number + " ";
-      mii.val_out = registers[mii.reg_num];
-    } else {
-      std::ostringstream value;
-      value << "w" << number << "=" << std::hex << mii.val_in << " ";
-      log += value.str();
-      if (!stuck) registers[mii.reg_num] = mii.val_in;
-    }
+    const bool reads = request == SIOCGMIIREG;
+    std::ostringstream value;
+    value << std::hex << mii.val_in;
+    log += (reads ? "r" : "w" + value.str() + ">") + std::to_string(mii.reg_num) + " ";
+    if (reads) mii.val_out = registers[mii.reg_num];
+    if (!reads && !stuck) registers[mii.reg_num] = mii.val_in;
     return 0;
   }
 };
 
 TEST(LinkControl, TellsTheLinkFromTheStatusRegister) {
-  const std::tuple<const char*, uint32_t, uint16_t, int32_t> cases[] = {
-      {"eth0", 3, 0x002C, 1},       {"eth0", 3, 0x003C, 0}, {"eth0", 3, 0x0006, 0},
-      {"eth0", 3, 0x7829, 0},       {"eth0", 3, 0xFFED, 1}, {"eth0", 3, 0x0000, 0},
-      {"eth0", 0x10003, 0x0004, 1}, {"eth0", 0x103, 4, -1}, {"eth1", 3, 4, -1},
-      {"eth0", UINT32_MAX, 4, -1},  {nullptr, 3, 4, -1}};
-  for (const auto& [name, phy, status, result] : cases) {
-    const test::ScriptedIoctl device(Phy{{0xFFFF, status}, 1});
-    EXPECT_EQ(get_link_status(name, phy), result) << std::hex << status;
-  }
+  const auto status = [](const char* bits) {
+    const test::ScriptedIoctl device(
+        Phy{{0xFFFF, static_cast<uint16_t>(strtoul(bits, nullptr, 16))}, 1});
+    return get_link_status("eth0", 3);
+  };
+  test::expect_rows("2C=1|3C=0|06=0|7829=0|FFED=1|0=0", status);
+  const test::ScriptedIoctl device(Phy{{0xFFFF, 4}, 9});
+  EXPECT_EQ(get_link_status("eth0", 0x10003), 1);
+  const int32_t failed[] = {get_link_status("eth0", 0x103), get_link_status("eth0", UINT32_MAX),
+                            get_link_status("eth1", 3), get_link_status(nullptr, 3),
+                            set_link_pwrdown(nullptr, 3, 1)};
+  EXPECT_THAT(failed, testing::Each(-1));
 }
 
 TEST(LinkControl, WritesOnlyWhatChangesAndReadsBack) {
-  const struct {
-    Phy phy;
-    int32_t down, result;
-    string log;
-  } cases[] = {
-      {{{0x1000}, 9}, 0, 0, "r0 "},
-      {{{0x1800}, 9}, -1, 1, "r0 "},
-      {{{0x1000}, 9}, 256, 1, "r0 w0=1800 r0 "},
-      {{{0xF8FF}, 9}, 0, 0, "r0 w0=f2ff r0 "},
-      {{{0x1800}, 9, true}, 0, 1, "r0 w0=1200 r0 "},
-      {{{0x1000}, 9, true}, 1, 0, "r0 w0=1800 r0 "},
-      {{{0x1000}, 0}, 1, -1, ""},
-      {{{0x1000}, 1}, 1, 0, "r0 "},
-      {{{0x1800}, 1}, 0, 1, "r0 "},
-      {{{0x1800}, 2}, 0, -1, "r0 w0=1200 "},
-  };
-  for (const auto& c : cases) {
-    Phy phy = c.phy;
+  // The control register, what is asked for, and how many accesses work; the result and the log.
+  const auto ask = [](const char* input) {
+    unsigned control;
+    int down, accesses;
+    char mode = ' ';
+    sscanf(input, "%x %d %d%c", &control, &down, &accesses, &mode);
+    Phy phy{{static_cast<uint16_t>(control), 0}, accesses, mode == '!'};
     const test::ScriptedIoctl device(std::ref(phy));
-    EXPECT_EQ(set_link_pwrdown("eth0", 3, c.down), c.result);
-    EXPECT_EQ(phy.log, c.log);
-    EXPECT_EQ(set_link_pwrdown(nullptr, 3, c.down), -1);
-  }
+    const int32_t result = set_link_pwrdown("eth0", 3, down);
+    return test::joined(result, phy.log);
+  };
+  test::expect_rows(
+      "1000 0 9=0 r0 |1800 -1 9=1 r0 |1000 256 9=1 r0 w1800>0 r0 |F8FF 0 9=0 r0 wf2ff>0 r0 |"
+      "1800 0 9!=1 r0 w1200>0 r0 |1000 1 9!=0 r0 w1800>0 r0 |1000 1 0=-1 |1000 1 1=0 r0 |"
+      "1800 0 1=1 r0 |1800 0 2=-1 r0 w1200>0 ",
+      ask);
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 
 #include "support/capture.h"
 #include "support/input_file.h"
+#include "support/rows.h"
 #include "support/scripted_io.h"
 #include "tavik.h"
 
@@ -14,51 +15,40 @@ using std::string;
 
 constexpr int32_t kEnd = 77;
 
-// Its result, what was delivered, if anything was, and how much of the input was left unread.
-using Scan = std::tuple<int32_t, std::optional<string>, size_t>;
-
 int32_t collect(void* argument, const void* data, uint32_t length) {
   auto& delivered = *static_cast<std::optional<string>*>(argument);
   delivered = delivered.value_or("") + string(static_cast<const char*>(data), length);
   return -1;
 }
 
-// The input arrives in pieces of at most so many bytes.
-Scan scanned(const string& input, const string& boundary, ssize_t piece) {
+// Its result, what was delivered, if anything was, and how much of the input was left unread. The
+// input arrives in pieces of at most so many bytes.
+string scanned(const string& input, const string& boundary, ssize_t piece) {
   const test::InputFile file(input);
   const test::ScriptedIo arriving(file.fd(), {input.size() + 9, {0, piece}});
   std::optional<string> delivered;
   const int32_t result = scan_boundary(file.fd(), boundary.c_str(), kEnd, collect, &delivered);
-  return {result, delivered, file.left()};
+  return test::joined(result, delivered ? "[" + *delivered + "]" : "nothing", file.left());
 }
 
 TEST(ScanBoundary, StopsBehindTheDelimitersLine) {
-  const std::tuple<const char*, const char*, Scan> cases[] = {
-      {"x\r\n--B\r\nnext", "B", {0, "x", 4}},
-      {"x\r\n--B--\r\nepilogue", "B", {kEnd, "x", 8}},
-      {"\r\n--B\r\n", "B", {0, "", 0}},
-      {"a\r\n--C\r\n--B--", "B", {kEnd, "a\r\n--C", 0}},
-      {"a\r\n--B\r\n", "B\rC", {0, "a", 0}},
-      // What could still have become a delimiter stays undelivered. One that has all its bytes and
-      // is none is only given up by its first byte.
-      {"x\r\n--B", "B", {2, "x", 0}},
-      {"x\r\n--B\r", "B", {2, "x", 0}},
-      {"x\r\n--B", "BCD", {2, "x", 0}},
-      {"x\r\n--C", "B", {2, "x\r", 0}},
-      {"abcdef", "B", {2, "abc", 0}},
-      {"abc", "B", {2, std::nullopt, 0}},
-      {"", "B", {2, std::nullopt, 0}}};
-  for (const auto& [input, boundary, expected] : cases) {
-    for (const ssize_t piece : {1, 2, 3, 5, 4096}) {
-      EXPECT_EQ(scanned(input, boundary, piece), expected) << input;
-    }
+  for (const ssize_t piece : {1, 2, 3, 5, 4096}) {
+    // What could still have become a delimiter stays undelivered. One that has all its bytes and
+    // is none is only given up by its first byte.
+    test::expect_rows(
+        "x\r\n--B\r\nnext=0 [x] 4|x\r\n--B--\r\nepilogue=77 [x] 8|\r\n--B\r\n=0 [] 0|"
+        "a\r\n--C\r\n--B--=77 [a\r\n--C] 0|x\r\n--B=2 [x] 0|x\r\n--B\r=2 [x] 0|"
+        "x\r\n--C=2 [x\r] 0|abcdef=2 [abc] 0|abc=2 nothing 0|=2 nothing 0",
+        [piece](const char* input) { return scanned(input, "B", piece); });
+    EXPECT_EQ(scanned("x\r\n--B", "BCD", piece), "2 [x] 0");
+    EXPECT_EQ(scanned("a\r\n--B\r\n", "B\rC", piece), "0 [a] 0");
   }
 }
 
 TEST(ScanBoundary, ReadsNothingForABoundaryThatDelimitsNothing) {
   for (const string& boundary : {string(), string("\rB"), string(1021, 'b'), string(8000, 'b')}) {
     const string input = "x\r\n--" + boundary + "\r\n";
-    EXPECT_EQ(scanned(input, boundary, 4096), Scan(2, std::nullopt, input.size()));
+    EXPECT_EQ(scanned(input, boundary, 4096), test::joined(2, "nothing", input.size()));
   }
   EXPECT_EQ(scan_boundary(-1, nullptr, kEnd, collect, nullptr), 2);
 }
@@ -109,9 +99,7 @@ TEST(MpartSinks, WriteAllTheyGet) {
 }
 
 TEST(ValidFilename, IsTheLastComponent) {
-  const std::pair<const char*, const char*> cases[] = {
-      {"C:\\dir\\a.txt", "a.txt"}, {"/x\\y", "y"}, {"a\\b/c", "c"}, {"a/", ""}, {"..", ".."}};
-  for (const auto& [path, name] : cases) EXPECT_STREQ(valid_filename(path), name);
+  test::expect_rows("C:\\dir\\a.txt=a.txt|/x\\y=y|a\\b/c=c|a/=|..=..", valid_filename);
   EXPECT_EQ(valid_filename(nullptr), nullptr);
 }
 
