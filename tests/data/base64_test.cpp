@@ -21,6 +21,8 @@ TEST(Base64, GoesBothWaysWithinTheRoomThereIs) {
   char out[] = "untouched";
   EXPECT_EQ(base64_encode(out, INT32_MAX, out, INT32_MAX), -1);
   EXPECT_EQ(base64_encode(out, 8, "foob", 4), -1);
+  EXPECT_EQ(base64_encode(out, 9, nullptr, 4), -1);
+  EXPECT_EQ(base64_decode(out, 9, nullptr, 4), -1);
   EXPECT_EQ(out[0], 'u');
   EXPECT_EQ(base64_encode(out, 9, "foob", 4), 8);
   EXPECT_STREQ(out, "Zm9vYg==");

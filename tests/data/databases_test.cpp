@@ -116,7 +116,9 @@ TEST(UbootEnv, IsReadFromADeviceThatIsRight) {
       {small, 9, "3"}};
   const test::TempDir dir;
   const string path = dir.path("mtd");
-  EXPECT_EQ(read_uboot_env(path.c_str()), -1);
+  for (const char* none : {static_cast<const char*>(nullptr), path.c_str(), dir.c_str()}) {
+    EXPECT_EQ(read_uboot_env(none), -1);
+  }
   for (const auto& [environment, size, expected] : cases) {
     const uint32_t crc =
         ~crc32(UINT32_MAX, environment.data(), static_cast<uint32_t>(environment.size()));
