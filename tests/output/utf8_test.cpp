@@ -46,17 +46,17 @@ TEST(Utf8, EncodesEveryCharacterWholeOrNotAtAll) {
 }
 
 TEST(Utf8, LengthTellsWhereToCut) {
-  const auto length = [](uint32_t limit) {
-    return [limit](const char* text) {
-      uint32_t bytes = 99;
-      const uint32_t characters = utf8_length(text, limit, &bytes);
-      EXPECT_EQ(utf8_length(text, limit, nullptr), characters);
-      EXPECT_EQ(utf8_length(nullptr, limit, nullptr), 0U);
-      return joined(characters, bytes);
-    };
-  };
-  expect_rows("abc=3 3|=0 0|a\xFFz=5 2|a\xC3z=5 3|a\xE2\x80=5 3", length(5));
-  expect_rows("abc=1 1|a\xFFz=1 1|\xC3\xA9z=1 2", length(1));
+  // The limit and the text.
+  expect_rows(
+      "5 abc=3 3|5 =0 0|5 a\xFFz=5 2|5 a\xC3z=5 3|5 a\xE2\x80=5 3|1 abc=1 1|1 a\xFFz=1 1|"
+      "1 \xC3\xA9z=1 2",
+      [](const char* row) {
+        uint32_t bytes = 99;
+        const uint32_t length = utf8_length(row + 2, str_to_uint(row), &bytes);
+        EXPECT_EQ(utf8_length(row + 2, str_to_uint(row), nullptr), length);
+        return joined(length, bytes);
+      });
+  EXPECT_EQ(utf8_length(nullptr, 5, nullptr), 0U);
 }
 
 TEST(Strsncpy, CopiesWhatFitsAndTerminates) {
