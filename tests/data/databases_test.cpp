@@ -79,19 +79,16 @@ TEST(OperatorNames, AreAppendedFileByFile) {
   const test::TempDir dir;
   dir.put("one", "\"26201\",\"Net One\"\r\n\"26202\", \"no\"\n\"1234567\",\"One\"");
   dir.put("two", "\"1\",\"\xC3\xA4");
-  const auto listed = [] {
-    string text;
-    for (const copn_entry* e = copn_ptr(); e != nullptr; e = e->next) {
-      text.append(e->numeric).append("=").append(e->name).append(";");
-    }
-    return text;
-  };
   for (int round = 0; round < 2; ++round) {
     EXPECT_EQ(copn_ptr(), nullptr);
     EXPECT_EQ(read_copn_file(dir.path("one").c_str()), 0);
     EXPECT_EQ(read_copn_file(dir.path("none").c_str()), -1);
     EXPECT_EQ(read_copn_file(dir.path("two").c_str()), 0);
-    EXPECT_EQ(listed(), "26201=Net One;123456=One;1=\xC3\xA4;");
+    string listed;
+    for (const copn_entry* e = copn_ptr(); e != nullptr; e = e->next) {
+      listed.append(e->numeric).append("=").append(e->name).append(";");
+    }
+    EXPECT_EQ(listed, "26201=Net One;123456=One;1=\xC3\xA4;");
     free_copn();
   }
   EXPECT_EQ(copn_ptr(), nullptr);
