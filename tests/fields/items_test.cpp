@@ -108,8 +108,9 @@ TEST(FieldItems, AreStoredOnChange) {
          {"01\n", "\r\n", "", "01", "01\n\u20AC\u20AC", static_cast<const char*>(nullptr)}) {
       line(update_textarea_file(dir, "i", text, 4)), putchar('\n');
     }
-    line(update_textarea_file(dir, "i", "01\n", 1)),
-        line(update_textarea_file(dir, "i", "0", 0x55555556));
+    line(update_textarea_file(dir, "i", "0", 0x55555556));
+    files.put("i", "01\nlonger\n"), files.age("i");
+    line(update_textarea_file(dir, "i", "01\n", 1));
   });
   EXPECT_EQ(update_textarea_file(dir, "missing", "", 5), -1);
   EXPECT_EQ(update_textarea_file(dir, ".", "a", 0), -1) << "open to read, but not to write";
