@@ -1,12 +1,16 @@
 #include <arpa/inet.h>
+#include <fcntl.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <linux/if_tun.h>
 #include <linux/mii.h>
 #include <linux/sockios.h>
 #include <net/if.h>
+#include <sched.h>
 #include <sys/ioctl.h>
 
 #include "support/capture.h"
+#include "support/child.h"
 #include "support/no_descriptors.h"
 #include "support/rows.h"
 #include "support/scripted_io.h"
@@ -110,6 +114,71 @@ TEST(Interfaces, AreListedInABufferThatGrows) {
   EXPECT_EQ(test::printed([] { EXPECT_EQ(read_interface_conf("", nullptr), 0); }), "30 40 50 ");
 }
 
+constexpr int kRefused = 77;
+
+// Runs body in a child whose network is its own: lo, up, and a tap device without an address.
+template <typename Body>
+test::ChildAnswer in_private_network(Body body) {
+  return test::in_child([&] {
+    if (unshare(CLONE_NEWNET) != 0 && unshare(CLONE_NEWUSER | CLONE_NEWNET) != 0) return kRefused;
+    ifreq wish = {"abcdefghijklmno", {}};
+    wish.ifr_flags = IFF_TAP;
+    if (ioctl(open("/dev/net/tun", O_RDWR), TUNSETIFF, &wish) != 0) return kRefused;
+    wish = {"lo", {}};
+    wish.ifr_flags = IFF_UP;
+    return ioctl(socket(AF_INET, SOCK_DGRAM, 0), SIOCSIFFLAGS, &wish) == 0 ? body() : kRefused;
+  });
+}
+
+TEST(Interfaces, OfARealKernelWithManyAddresses) {
+  const test::ChildAnswer answer = in_private_network([] {
+    for (const char* name : {"lo", "abcdefghijklmnopq", "eth0"}) state(name);
+    for (int count = 2; count <= 40; ++count) {
+      ifreq wish = {};
+      snprintf(wish.ifr_name, IFNAMSIZ, "lo:%d", count);
+      sockaddr_in address = {AF_INET, 0, {htonl(0x0A000000U + static_cast<unsigned>(count))}, {}};
+      memcpy(&wish.ifr_addr, &address, sizeof address);
+      ioctl(socket(AF_INET, SOCK_DGRAM, 0), SIOCSIFADDR, &wish);
+      if (count == 29 || count == 30 || count == 40) read_interface_conf("lo:4", show);
+    }
+    state("lo:2");
+    return read_interface_conf(nullptr,
+                               [](const ifreq*, int32_t i) { return i > 38 ? puts("") : 0; });
+  });
+  if (answer.status == kRefused) GTEST_SKIP() << "no private network on this machine";
+  EXPECT_EQ(answer.output,
+            "0 0 2000000 7f000001 .....2000000 ff000000 .....49; "
+            "0 1 ..............1002; -1 -1 --------------0; 0:lo:4=10.0.0.4 "
+            "0:lo:4=10.0.0.4 0:lo:4=10.0.0.4 1:lo:40=10.0.0.40 "
+            "0 0 2000000 a000002 .....2000000 ff000000 .....49; \n");
+  EXPECT_EQ(answer.status, 0);
+}
+
+TEST(Interfaces, Ipv6AddressesOfARealKernel) {
+  const test::ChildAnswer answer = in_private_network([] {
+    struct {
+      uint8_t address[16];
+      uint32_t prefix, index, spare[4];
+    } const host = {{0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 1}, 128, 1, {}},
+            link = {{0xFE, 0x80, 1, 2, 3, 4, 0, 0, 0, 0, 0, 0, 0, 0, 10, 11}, 64, 1, {}};
+    const auto settled = [](const iface_info* info) {
+      iface_info copy = *info;
+      copy.netmask.words[2] &= ~0x40U;  // the kernel may still be looking for duplicates
+      return dump(&copy);
+    };
+    const int query = socket(AF_INET6, SOCK_DGRAM, 0);
+    if (read_interface6_conf("lo", settled) != 1) return kRefused;
+    if (ioctl(query, SIOCSIFADDR, &link) != 0) return kRefused;
+    for (const char* name : {"lo", "l", "abc"}) printf("%d ", read_interface6_conf(name, nullptr));
+    return ioctl(query, SIOCDIFADDR, &host) == 0 ? read_interface6_conf("lo", settled) : kRefused;
+  });
+  if (answer.status == kRefused) GTEST_SKIP() << "no private network, or no IPv6 in it";
+  EXPECT_EQ(answer.output,
+            "a000000 ....1 10000000 1000000 80000000 80000000 ....0; 2 0 0 "
+            "a000000 .fe800102 3040000 .a0b 20000000 1000000 40000000 80000000 ....0; ");
+  EXPECT_EQ(answer.status, 1);
+}
+
 TEST(Interfaces, Ipv6AddressesStandInWholeLinesOfTheFirst4095Bytes) {
   const string eth = "fe800000000000000203040506070809 02 40 20 80     eth0\n";
   const string lo = "00000000000000000000000000000001 01 80 10 80       lo\n";
@@ -173,6 +242,10 @@ TEST(LinkControl, TellsTheLinkFromTheStatusRegister) {
   test::expect_rows("2C=1|3C=0|06=0|7829=0|FFED=1|0=0", status);
   const test::ScriptedIoctl device(Phy{{0xFFFF, 4}, 9});
   EXPECT_EQ(get_link_status("eth0", 0x10003), 1);
+  {
+    const test::NoDescriptors none;
+    EXPECT_EQ(get_link_status("eth0", 3), -1);
+  }
   const int32_t failed[] = {get_link_status("eth0", 0x103), get_link_status("eth0", UINT32_MAX),
                             get_link_status("eth1", 3), get_link_status(nullptr, 3),
                             set_link_pwrdown(nullptr, 3, 1)};
