@@ -111,17 +111,19 @@ TEST(Print, StopsWhenTheOutputBreaks) {
   const test::TempDir dir;
   dir.put("file", text);
   const int file = open(dir.path("file").c_str(), O_RDONLY);
-  uint32_t count = 0;
+  uint32_t count = 0, escaped = 0;
   printed([&] {
     const int full = open("/dev/full", O_WRONLY);
     dup2(full, STDOUT_FILENO);
     EXPECT_EQ(print_fd(file), -1);
     count = print_str(text.c_str());
+    escaped = html_print_text(text.c_str());
     close(full);
   });
   clearerr(stdout);
   close(file);
   EXPECT_LT(count, text.size());
+  EXPECT_GT(escaped, text.size() - 9) << "character by character";
 }
 
 TEST(HtmlAsprint, TextOfAnyLengthInStepsOf4096) {
