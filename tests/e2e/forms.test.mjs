@@ -111,7 +111,8 @@ const bodies = [
   ['schedule', 'restart_time=x&restart_time=&restart_days=7&restart_days=12', {}, 'Restart at'],
   ['schedule', 'restart_time=-5&restart_days=6&restart_days=0&restart_days=6',
     { restart_time: '05:00', restart_days: '65' }],
-  ['schedule', 'restart_time=99999%3A99&backup_days', { restart_time: '15:00', backup_days: '0' }],
+  ['schedule', 'restart_time=99999%3A99&restart_days&backup_days=3',
+    { restart_time: '15:00', restart_days: '0', backup_days: '8' }],
 ];
 
 test('posted directly: wrong values are corrected or refused, missing ones left alone', async () => {
@@ -132,7 +133,7 @@ test('Network: the first values can be had again', async () => {
 test('what can be chosen, and what is made of it', async () => {
   const texts = [['vpn', '#vpncert option', certificate, 'a.crt', 'None'],
     ['mobile', '#operator option', 'Automatic', 'Funknetz Nord', 'Funknetz S\u00FCd', 'Marschland Mobil'],
-    ['schedule', 'pre', '0 15 * * 0,6 /sbin/reboot\n# never: /usr/sbin/backup\n']];
+    ['schedule', 'pre', '# never: /sbin/reboot\n59 23 * * 3 /usr/sbin/backup\n']];
   for (const [page, selector, ...expected] of texts) {
     assert.deepEqual(await (await open(page)).locator(selector).allTextContents(), expected);
   }
