@@ -99,7 +99,7 @@ const bodies = [
     { netmask: '255.255.255.252', mtu: '1500', netnotes: 'ä'.repeat(500) }],
   ['network', 'address=1.2.3.999&address=<script>&zone=nowhere&dns=9&ipv6=1', {}],
   ['network', 'mac=ff:ff:ff:ff:ff:ff', {}, 'MAC address'],
-  ['network', 'features=&ipv6=1', { ipv6: '1', multicast: '0', upnp: '0' }],
+  ['network', 'features=&multicast=1', { upnp: '0' }],
   ['mobile', `country=xx&country=&country=%23&operator=6129&message=${'%E2%82%AC'.repeat(900)}`,
     { message: '€'.repeat(480) }, 'Country'],
   ['mobile', 'message=%0A%0D%0Aa%00b&x', { message: 'a' }],
