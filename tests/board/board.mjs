@@ -5,7 +5,9 @@ import net from 'node:net';
 import readline from 'node:readline';
 import { freePort } from '../e2e/lib/server.mjs';
 
-const linesOf = (stream) => readline.createInterface({ input: stream })[Symbol.asyncIterator]();
+// A console's line ends can come in two pieces.
+const linesOf = (input) =>
+  readline.createInterface({ input, crlfDelay: Infinity })[Symbol.asyncIterator]();
 
 // Reads lines up to one that matches; gives the match and the lines ahead of it.
 async function until(lines, pattern) {

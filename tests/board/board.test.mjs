@@ -1,40 +1,50 @@
 // The library and the demo device on the emulated board: the device's libc, flash and a PHY.
 import assert from 'node:assert/strict';
+import { execFileSync } from 'node:child_process';
 import { createHash, randomBytes } from 'node:crypto';
 import fs from 'node:fs';
 import { after, test } from 'node:test';
 import { boot } from './board.mjs';
-import { formValues } from '../e2e/lib/html.mjs';
-import { contentType, multipart } from '../e2e/lib/multipart.mjs';
+import { openBrowser, press } from '../e2e/lib/browser.mjs';
 
-const board = await boot('build/board-test');
-after(() => board.stop());
+const folder = 'build/board-test';
+const board = await boot(folder);
+const browser = await openBrowser();
+after(() => Promise.all([board.stop(), browser.close()]));
 
-const ask = (page, type, body) => fetch(`${board.url}/cgi-bin/${page}`, {
-  signal: AbortSignal.timeout(60000), redirect: 'manual', method: body ? 'POST' : 'GET', body,
-  headers: { Authorization: `Basic ${btoa(`${board.user}:${board.password}`)}`, 'Content-Type': type ?? '' },
+const address = (page) => `${board.url}/cgi-bin/${page}`;
+const ask = (page, fields) => fetch(address(page), {
+  signal: AbortSignal.timeout(60000), redirect: 'manual', method: fields ? 'POST' : 'GET',
+  headers: { Authorization: `Basic ${btoa(`${board.user}:${board.password}`)}`,
+    ...(fields && { 'Content-Type': 'application/x-www-form-urlencoded' }) },
+  body: fields && `${new URLSearchParams(fields)}`,
 });
-const post = (page, fields) =>
-  ask(page, 'application/x-www-form-urlencoded', `${new URLSearchParams(fields)}`);
 const textOf = async (page) => (await ask(page)).text();
 
-test('a form is saved and shown again', async () => {
-  const fields = { owner: `<b>"it's"</b> äöü €`, place: 'a b', remark: '' };
-  await post('notes', fields);
-  assert.deepEqual(formValues(await textOf('notes')), fields);
+test('a form is saved by a browser and shown again', async () => {
+  const tab = await browser.newPage();
+  await tab.goto(address('notes'));
+  const controls = ['owner', 'place', 'remark'].map((name) => tab.locator(`#post-${name}`));
+  const values = [`<b>"it's"</b> äöü €`, 'a b', ''];
+  for (const [i, control] of controls.entries()) await control.fill(values[i]);
+  await press(tab, 'Save by post');
+  assert.deepEqual(await Promise.all(controls.map((control) => control.inputValue())), values);
   assert.equal(await board.run('cat /state/place'), 'a b');
 });
 
-test('a file comes as it is', async () => {
+test('a file that curl sends comes as it is', async () => {
   const content = Buffer.concat([randomBytes(300000), Buffer.from('\r\n--'.repeat(99))]);
-  assert.equal((await ask('firmware', contentType, multipart('image', 'x', content))).status, 303);
+  fs.writeFileSync(`${folder}/upload`, content);
+  const status = execFileSync('curl', ['-sS', '-m', '60', '-w', '%{http_code}', '-F', `image=@${folder}/upload`,
+    '-u', `${board.user}:${board.password}`, address('firmware')], { encoding: 'latin1' });
+  assert.equal(status, '303');
   assert.equal(await board.run('sha256sum /state/firmware/image | cut -c 1-64'),
     createHash('sha256').update(content).digest('hex'));
 });
 
 test('a new password counts at once', async () => {
   const words = { present: board.password, new: 'a-new:Word1', again: 'a-new:Word1' };
-  assert.equal((await post('administration', words)).status, 303);
+  assert.equal((await ask('administration', words)).status, 303);
   assert.equal((await ask('administration')).status, 401);
   board.password = words.new;
   assert.equal((await ask('administration')).status, 200);
@@ -84,7 +94,7 @@ test('the boot environment is read from flash partitions of every kind', async (
 });
 
 test('every page is served whole, and then the board restarts', async () => {
-  for (const name of fs.readdirSync('build/board-test/root/demo/www/cgi-bin')) {
+  for (const name of fs.readdirSync(`${folder}/root/demo/www/cgi-bin`)) {
     assert.match(await textOf(name), /<\/html>\s*$/, name);
   }
   assert.equal(await board.restart(), 0);
