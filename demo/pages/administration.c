@@ -6,9 +6,9 @@
 
 #include "shared/access.h"
 #include "shared/device_log.h"
-#include "shared/form_value.h"
 #include "shared/page.h"
 #include "shared/path.h"
+#include "shared/request.h"
 #include "shared/told.h"
 
 enum { LEAST_CHARACTERS = 8, MOST_CHARACTERS = 64 };
@@ -37,22 +37,23 @@ static uint32_t change(const char* present, const char* first, const char* again
   char saved[PATH_SIZE];
   passwd_state state;
   passwd_entry entry = {0, present, 0, NULL, 0, NULL};
-  path_join(saved, page_state(), ACCESS_SAVED);
-  rd_passwd(page_state(), ACCESS_ITEM, &state, 0);
+  path_join(saved, state_folder(), ACCESS_SAVED);
+  rd_passwd(state_folder(), ACCESS_ITEM, &state, 0);
   entry.new_status = chk_new_passwd(first, &entry.new_text, LEAST_CHARACTERS, MOST_CHARACTERS);
   entry.repeat_status =
       chk_new_passwd(again, &entry.repeat_text, LEAST_CHARACTERS, MOST_CHARACTERS);
   update_pw(&entry, &state, saved, 1);
   if (state.status != PW_STATUS_CHANGED) return (uint32_t)state.status;
-  rd_passwd(page_state(), ACCESS_ITEM, &state, 0);
+  rd_passwd(state_folder(), ACCESS_ITEM, &state, 0);
   if (crypt_cmp(state.scheme, state.stored, first) != 0) return NOT_STORED;
-  if (access_configure(page_state()) < 0) return NOT_IN_FORCE;
-  return signal_process(page_state(), "serverpid", SIGHUP) == 0 ? PW_STATUS_CHANGED : NOT_IN_FORCE;
+  if (access_configure(state_folder()) < 0) return NOT_IN_FORCE;
+  return signal_process(state_folder(), "serverpid", SIGHUP) == 0 ? PW_STATUS_CHANGED
+                                                                  : NOT_IN_FORCE;
 }
 
 /* A field that was not sent is as wrong as an empty one. */
 static const char* entered(const cgi_attr* attrs, int32_t count, const char* name) {
-  const char* text = form_value(attrs, count, name);
+  const char* text = request_value(attrs, count, name);
   return text != NULL ? text : "";
 }
 
@@ -75,8 +76,8 @@ static void print_field(const char* name, const char* label, const char* autocom
 int main(void) {
   uint32_t told = PW_STATUS_NONE;
   access_guard();
-  getcgivars(&told, take, page_is_post() ? NULL : told_read);
-  if (page_is_post()) {
+  getcgivars(&told, take, request_is_post() ? NULL : told_read);
+  if (request_is_post()) {
     told_redirect("administration", told);
     return 0;
   }

@@ -5,8 +5,8 @@
 #include "shared/access.h"
 #include "shared/certificate_store.h"
 #include "shared/device_log.h"
-#include "shared/form_value.h"
 #include "shared/page.h"
+#include "shared/request.h"
 #include "shared/upload.h"
 
 enum { FILE_BYTES = 256 << 10 };
@@ -30,7 +30,7 @@ static int32_t receive(uint32_t* status, cgi_attr* attrs, int32_t count) {
 static int32_t take(void* context, cgi_attr* attrs, int32_t count, int32_t kind) {
   uint32_t* status = context;
   if (kind == CGI_KIND_MULTIPART) return count < 2 ? 0 : receive(status, attrs, count);
-  const char* name = form_value(attrs, count, "delete");
+  const char* name = request_value(attrs, count, "delete");
   if (name == NULL) return 0;
   int32_t deleted = certificate_delete(name);
   *status = deleted > 0 ? UPLOAD_DELETED : UPLOAD_NOT_DELETED;
@@ -42,7 +42,7 @@ static int32_t take(void* context, cgi_attr* attrs, int32_t count, int32_t kind)
 static char asked[CERTIFICATE_NAME_BYTES + 1];
 
 static int32_t read_query(void* context, cgi_attr* attrs, int32_t count, int32_t kind) {
-  const char* name = form_value(attrs, count, "delete");
+  const char* name = request_value(attrs, count, "delete");
   if (name != NULL) strsncpy(asked, sizeof asked, name);
   return told_read(context, attrs, count, kind);
 }
@@ -89,8 +89,8 @@ int main(void) {
   cert_dir certificates;
   uint32_t told = UPLOAD_NONE;
   access_guard();
-  getcgivars(&told, take, page_is_post() ? NULL : read_query);
-  if (page_is_post()) {
+  getcgivars(&told, take, request_is_post() ? NULL : read_query);
+  if (request_is_post()) {
     told_redirect("certificates", told);
     return 0;
   }

@@ -43,9 +43,9 @@ static void print_stored(void) {
 int main(void) {
   uint32_t told = UPLOAD_NONE;
   access_guard();
-  path_join(folder, page_state(), "firmware");
-  getcgivars(&told, receive, page_is_post() ? NULL : told_read);
-  if (page_is_post()) {
+  path_join(folder, state_folder(), "firmware");
+  getcgivars(&told, receive, request_is_post() ? NULL : told_read);
+  if (request_is_post()) {
     told_redirect("firmware", told);
     return 0;
   }

@@ -16,15 +16,15 @@ static void print_file(void) {
       "Content-Type: text/plain; charset=utf-8\r\n"
       "Content-Disposition: attachment; filename=\"log.txt\"\r\n"
       "Cache-Control: no-store\r\nX-Content-Type-Options: nosniff\r\n\r\n");
-  run_shell(PF_RAW, LOG_COMMAND, page_state(), page_state());
+  run_shell(PF_RAW, LOG_COMMAND, state_folder(), state_folder());
 }
 
 static void print_page(void) {
   page_begin("log", "Log");
-  if (stat_item(page_state(), DEVICE_LOG) < 0 && stat_item(page_state(), DEVICE_LOG_OLD) < 0) {
+  if (stat_item(state_folder(), DEVICE_LOG) < 0 && stat_item(state_folder(), DEVICE_LOG_OLD) < 0) {
     print_str("<p>Nothing has been logged yet.</p>\r\n");
   } else {
-    run_shell(PF_PRE, LOG_COMMAND " | tail -n %d", page_state(), page_state(), SHOWN_LINES);
+    run_shell(PF_PRE, LOG_COMMAND " | tail -n %d", state_folder(), state_folder(), SHOWN_LINES);
     print_str(
         "<p class=\"actions\"><a href=\"log?format=text\">The whole log as a file</a></p>\r\n");
   }

@@ -5,9 +5,9 @@
 #include <stdlib.h>
 
 #include "shared/choice_controls.h"
-#include "shared/form_value.h"
 #include "shared/operators.h"
 #include "shared/page.h"
+#include "shared/request.h"
 #include "shared/short_message.h"
 #include "shared/text_controls.h"
 #include "shared/text_filters.h"
@@ -16,13 +16,13 @@ static db_row* countries;
 
 /* The control's name goes out as it is, and so can bring the id along. */
 static void print_country(const setting* about) {
-  gen_selectbox_dbase_item(countries, COUNTRY_CODE, COUNTRY_NAME, page_state(), about->name,
+  gen_selectbox_dbase_item(countries, COUNTRY_CODE, COUNTRY_NAME, state_folder(), about->name,
                            "country\" id=\"country", COUNTRY_CODE_SIZE);
 }
 
 static int32_t store_country(const setting* about, const char* code) {
   if (search_db(countries, COUNTRY_CODE, code) == NULL) return -1;
-  return update_item(page_state(), about->name, code, COUNTRY_CODE_SIZE);
+  return update_item(state_folder(), about->name, code, COUNTRY_CODE_SIZE);
 }
 
 static const control country_select = {print_country, store_country, 0};
@@ -31,14 +31,14 @@ static const control country_select = {print_country, store_country, 0};
 static int32_t operator_row(uint32_t index, uintptr_t arg, selectbox_text_option* out) {
   char code[COUNTRY_CODE_SIZE + 1];
   (void)arg;
-  read_item(page_state(), "country", code, COUNTRY_CODE_SIZE);
+  read_item(state_folder(), "country", code, COUNTRY_CODE_SIZE);
   return operators_row(countries, code, index, out);
 }
 
 /* Shows the size of a text below its control. */
 static void print_message(const setting* about) {
   char* text = NULL;
-  get_textarea_file(&text, page_state(), about->name, (uint32_t)about->maximum);
+  get_textarea_file(&text, state_folder(), about->name, (uint32_t)about->maximum);
   sms_size size = sms_measure(text != NULL ? text : "");
   free(text);
   text_area.print(about);
@@ -73,7 +73,7 @@ static int32_t save(void* context, cgi_attr* attrs, int32_t count, int32_t kind)
 static sms_size asked;
 
 static int32_t read_query(void* context, cgi_attr* attrs, int32_t count, int32_t kind) {
-  const char* text = form_value(attrs, count, settings[MESSAGE].name);
+  const char* text = request_value(attrs, count, settings[MESSAGE].name);
   char* clean = text != NULL ? text_area_clean(&settings[MESSAGE], text) : NULL;
   if (clean != NULL) asked = sms_measure(clean);
   free(clean);
@@ -101,10 +101,10 @@ static void print_page(const outcome* result) {
 
 int main(void) {
   outcome result = {0, 0, 0};
-  page_guard();
+  origin_guard();
   countries = operators_read();
-  getcgivars(&result, save, page_is_post() ? NULL : read_query);
-  if (page_is_post()) {
+  getcgivars(&result, save, request_is_post() ? NULL : read_query);
+  if (request_is_post()) {
     outcome_redirect(&result, "mobile");
   } else if (page_asks_for("json")) {
     print_json();

@@ -6,9 +6,9 @@
 #include "shared/check_group.h"
 #include "shared/choice_controls.h"
 #include "shared/first_values.h"
-#include "shared/form_value.h"
 #include "shared/number_controls.h"
 #include "shared/page.h"
+#include "shared/request.h"
 #include "shared/text_controls.h"
 #include "shared/text_filters.h"
 
@@ -50,26 +50,26 @@ static void restore_first_values(outcome* result) {
     if (value == NULL) continue;
     outcome_note(result, s,
                  s < FIELD_COUNT ? setting_store(&settings[s], value)
-                                 : update_item(page_state(), name, value, 1));
+                                 : update_item(state_folder(), name, value, 1));
   }
 }
 
 static void save_features(outcome* result, const cgi_attr* attrs, int32_t count) {
   for (uint32_t s = FIELD_COUNT; s < SETTING_COUNT; s++) {
     const char* name = settings[s].name;
-    uint32_t flags = checkbox_flags(form_value(attrs, count, name) != NULL, 0);
-    outcome_note(result, s, wr_checkbox_item(page_state(), name, flags));
+    uint32_t flags = checkbox_flags(request_value(attrs, count, name) != NULL, 0);
+    outcome_note(result, s, wr_checkbox_item(state_folder(), name, flags));
   }
 }
 
 static int32_t save(void* context, cgi_attr* attrs, int32_t count, int32_t kind) {
   (void)kind;
-  if (form_value(attrs, count, "restore") != NULL) {
+  if (request_value(attrs, count, "restore") != NULL) {
     restore_first_values(context);
     return 0;
   }
   outcome_store_form(context, attrs, count, settings, FIELD_COUNT, setting_store);
-  if (form_value(attrs, count, "features") != NULL) save_features(context, attrs, count);
+  if (request_value(attrs, count, "features") != NULL) save_features(context, attrs, count);
   return 0;
 }
 
@@ -84,7 +84,7 @@ static void print_page(const outcome* result) {
   page_legend("Features");
   check_group_begin("features");
   for (int s = FIELD_COUNT; s < SETTING_COUNT; s++) {
-    uint32_t flags = rd_checkbox_item(page_state(), settings[s].name, 0);
+    uint32_t flags = rd_checkbox_item(state_folder(), settings[s].name, 0);
     check_group_box(settings[s].name, 1, settings[s].label, flags);
   }
   page_legend_end();

@@ -21,7 +21,7 @@ static int32_t store(const char* name, char* value) {
   utf8_length(value, NOTE_CHARACTERS, &bytes);
   value[bytes] = '\0';
   value[strcspn(value, "\r\n\t")] = '\0';
-  return update_item(page_state(), name, value, NOTE_SIZE);
+  return update_item(state_folder(), name, value, NOTE_SIZE);
 }
 
 static int32_t save(void* context, cgi_attr* attrs, int32_t count, int32_t kind) {
@@ -46,7 +46,7 @@ static void print_form(const char* method) {
   printf("<form method=\"%s\" action=\"notes\">\r\n", method);
   for (int n = 0; n < NOTE_COUNT; n++) {
     char value[NOTE_SIZE + 1];
-    read_item(page_state(), notes[n].name, value, NOTE_SIZE);
+    read_item(state_folder(), notes[n].name, value, NOTE_SIZE);
     printf("<p class=\"field\"><label for=\"%s-%s\">%s</label>\r\n", method, notes[n].name,
            notes[n].label);
     printf("<input type=\"text\" id=\"%s-%s\" name=\"%s\" value=\"", method, notes[n].name,
@@ -59,9 +59,9 @@ static void print_form(const char* method) {
 
 int main(void) {
   outcome result = {0, 0, 0};
-  page_guard();
-  getcgivars(&result, save, page_is_post() ? NULL : read_query);
-  if (page_is_post()) {
+  origin_guard();
+  getcgivars(&result, save, request_is_post() ? NULL : read_query);
+  if (request_is_post()) {
     outcome_redirect(&result, "notes");
     return 0;
   }

@@ -1,6 +1,6 @@
 /* "Routes": a list whose rows are added, deleted, moved and sorted; ?format=xml is a document. */
-#include "shared/form_value.h"
 #include "shared/page.h"
+#include "shared/request.h"
 #include "shared/route_document.h"
 #include "shared/route_list.h"
 
@@ -30,9 +30,9 @@ static xtable routes;
 
 /* Row numbers mean something in the list that the form showed, and in no other. */
 static void act(outcome* result, const cgi_attr* attrs, int32_t count, size_t action) {
-  const char* index = form_value(attrs, count, actions[action].name);
+  const char* index = request_value(attrs, count, actions[action].name);
   if (index == NULL) return;
-  if (str_to_uint(form_value(attrs, count, "mark")) == routes_mark(&routes)) {
+  if (str_to_uint(request_value(attrs, count, "mark")) == routes_mark(&routes)) {
     actions[action].act(&routes, str_to_uint(index));
   } else {
     result->failed |= 1U << OLDER_LIST;
@@ -41,12 +41,13 @@ static void act(outcome* result, const cgi_attr* attrs, int32_t count, size_t ac
 
 static int32_t save(void* context, cgi_attr* attrs, int32_t count, int32_t kind) {
   outcome* result = context;
-  const char* network = form_value(attrs, count, settings[NETWORK].name);
+  const char* network = request_value(attrs, count, settings[NETWORK].name);
   (void)kind;
   for (size_t a = 0; a < ACTION_COUNT; a++) act(result, attrs, count, a);
   if (network != NULL) {
-    uint32_t wrong = route_add(&routes, network, form_value(attrs, count, settings[GATEWAY].name),
-                               form_value(attrs, count, settings[REMARK].name));
+    uint32_t wrong =
+        route_add(&routes, network, request_value(attrs, count, settings[GATEWAY].name),
+                  request_value(attrs, count, settings[REMARK].name));
     if ((wrong & ROUTE_NETWORK_WRONG) != 0) result->failed |= 1U << NETWORK;
     if ((wrong & ROUTE_GATEWAY_WRONG) != 0) result->failed |= 1U << GATEWAY;
   }
@@ -103,10 +104,10 @@ static void print_page(const outcome* result) {
 
 int main(void) {
   outcome result = {0, 0, 0};
-  page_guard();
+  origin_guard();
   routes_read(&routes);
-  getcgivars(&result, save, page_is_post() ? NULL : page_read_query);
-  if (page_is_post()) {
+  getcgivars(&result, save, request_is_post() ? NULL : page_read_query);
+  if (request_is_post()) {
     outcome_redirect(&result, "routes");
   } else if (page_asks_for("xml")) {
     route_document_print(&routes);

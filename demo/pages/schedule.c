@@ -9,7 +9,7 @@ enum { DAY_COUNT = 7 };
 static void print_days(const setting* about) {
   dow_entry days[DAY_COUNT];
   uint32_t mask = 0;
-  uint32_t flags = rd_numberbox_item(page_state(), about->name, &mask, 0);
+  uint32_t flags = rd_numberbox_item(state_folder(), about->name, &mask, 0);
   gen_dow_table(days, DAY_COUNT,
                 "1Monday\0"
                 "2Tuesday\0"
@@ -43,7 +43,7 @@ static int32_t save(void* context, cgi_attr* attrs, int32_t count, int32_t kind)
   for (uint32_t s = RESTART_DAYS; s <= BACKUP_DAYS; s += 2) {
     const char* name = settings[s].name;
     if (!check_group_read(attrs, count, name, DAY_COUNT, &mask)) continue;
-    outcome_note(context, s, update_item_uint(page_state(), name, mask));
+    outcome_note(context, s, update_item_uint(state_folder(), name, mask));
   }
   return 0;
 }
@@ -54,7 +54,7 @@ static void print_cron_line(const setting* time, const setting* days, const char
   uint32_t hours = 0;
   uint32_t minutes = 0;
   time_read(time, &hours, &minutes);
-  read_item_uint(page_state(), days->name, &mask);
+  read_item_uint(state_folder(), days->name, &mask);
   cron_weekdays(text, sizeof text, mask);
   if (*text == '\0') {
     printf("# never: %s\n", command);

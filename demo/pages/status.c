@@ -59,7 +59,7 @@ static const char* boot_fault(int32_t result) {
 static void print_boot_environment(void) {
   static const char* const names[] = {"ver", "serial#", "ethaddr", "bootdelay", "bootcmd"};
   char path[64];
-  read_item(page_state(), "bootdevice", path, sizeof path - 1);
+  read_item(state_folder(), "bootdevice", path, sizeof path - 1);
   int32_t result = read_uboot_env(path);
   print_str("<h2>Boot loader</h2>\r\n");
   if (result != 0) {

@@ -20,11 +20,11 @@ static const setting settings[SETTING_COUNT] = {
 static int32_t store(const setting* field, const char* text) {
   uint32_t maximum = (uint32_t)field->maximum;
   if ((field->flags & PF_PASSWORD) == 0) {
-    return update_textbox_item(page_state(), field->name, text, maximum, field->filter);
+    return update_textbox_item(state_folder(), field->name, text, maximum, field->filter);
   }
   uint32_t rejected = 0;
   int32_t stored =
-      update_password_item(page_state(), field->name, text, maximum, field->filter, &rejected);
+      update_password_item(state_folder(), field->name, text, maximum, field->filter, &rejected);
   return stored == 0 && rejected > 0 ? -1 : stored;
 }
 
@@ -40,7 +40,7 @@ static void print_json(void) {
   const int shown[] = {HOST_NAME, TIME_SERVER};
   for (size_t i = 0; i < sizeof shown / sizeof *shown; i++) {
     const setting* field = &settings[shown[i]];
-    flags = gen_json_text_item(page_state(), field->name, field->maximum, field->name, flags);
+    flags = gen_json_text_item(state_folder(), field->name, field->maximum, field->name, flags);
   }
   print_str("}\r\n");
 }
@@ -56,9 +56,9 @@ static void print_page(const outcome* result) {
 
 int main(void) {
   outcome result = {0, 0, 0};
-  page_guard();
-  getcgivars(&result, save, page_is_post() ? NULL : page_read_query);
-  if (page_is_post()) {
+  origin_guard();
+  getcgivars(&result, save, request_is_post() ? NULL : page_read_query);
+  if (request_is_post()) {
     outcome_redirect(&result, "system");
   } else if (page_asks_for("json")) {
     print_json();

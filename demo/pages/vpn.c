@@ -6,7 +6,7 @@
 #include "shared/page.h"
 
 static void print_certificate(const setting* about) {
-  gen_selectbox_certs_item(page_state(), about->name, about->name, certificate_folder(), "None",
+  gen_selectbox_certs_item(state_folder(), about->name, about->name, certificate_folder(), "None",
                            about->maximum, " id=\"vpncert\"");
 }
 
@@ -17,7 +17,7 @@ static int32_t store_certificate(const setting* about, const char* text) {
   if (length == 0 ? *text != '\0' : strlen(file) != (size_t)length) return -1;
   if (*file == '.' || strchr(file, '/') != NULL) return -1;
   if (length > 0 && stat_item(certificate_folder(), file) != 0) return -1;
-  return update_cert_item(page_state(), about->name, text, about->maximum);
+  return update_cert_item(state_folder(), about->name, text, about->maximum);
 }
 
 static const control certificate_select = {print_certificate, store_certificate, 0};

@@ -4,14 +4,14 @@
 #include <stdlib.h>
 #include <unistd.h>
 
-#include "shared/page.h"
+#include "shared/origin.h"
 #include "shared/path.h"
 
 static const char* const guarded_pages[] = {"administration", "certificates", "firmware", "log"};
 
 void access_guard(void) {
   static const auth_pair users[] = {{ACCESS_USER, 1}, {NULL, 0}};
-  page_guard();
+  origin_guard();
   if (get_auth(users) != 0) return;
   print_str("Status: 403 Forbidden\r\nContent-Type: text/plain\r\n\r\nLog in first.\r\n");
   exit(0);

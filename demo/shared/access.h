@@ -13,8 +13,8 @@
 #define ACCESS_SAVED "saved" /* the folder in the state with the second copy of the password */
 
 /*
- * Ends the page with status 403 unless the user is logged in, and as page_guard() does. The server
- * has asked by then; a page that was left out of its configuration is not open to everybody.
+ * Ends the page with status 403 unless the user is logged in, and as origin_guard() does. The
+ * server has asked by then; a page that was left out of its configuration is not open to everybody.
  */
 void access_guard(void);
 

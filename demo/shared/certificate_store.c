@@ -3,12 +3,12 @@
 #include <dirent.h>
 #include <string.h>
 
-#include "shared/page.h"
 #include "shared/path.h"
+#include "shared/state.h"
 
 const char* certificate_folder(void) {
   static char folder[PATH_SIZE];
-  path_join(folder, page_state(), "certificates/");
+  path_join(folder, state_folder(), "certificates/");
   return folder;
 }
 

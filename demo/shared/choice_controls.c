@@ -1,6 +1,6 @@
 #include "shared/choice_controls.h"
 
-#include "shared/page.h"
+#include "shared/state.h"
 
 static uint32_t count_choices(const setting* about) {
   uint32_t count = 0;
@@ -17,7 +17,7 @@ static int32_t choice_option(uint32_t operation, uint32_t index, uintptr_t arg) 
 
 static void print_select(const setting* about) {
   select_state state = {0, {0}};
-  state.flags = rd_numberbox_item(page_state(), about->name, &state.value.index, 0);
+  state.flags = rd_numberbox_item(state_folder(), about->name, &state.value.index, 0);
   gen_xselectbox_num(&state, choice_option, (uintptr_t)about, " id=\"%s\" name=\"%s\"", about->name,
                      about->name);
 }
@@ -26,14 +26,14 @@ static void print_select(const setting* about) {
 static int32_t store_select(const setting* about, const char* text) {
   uint32_t choice = 0;
   scan_select_num(text, &choice, count_choices(about), 0);
-  return update_item_uint(page_state(), about->name, choice);
+  return update_item_uint(state_folder(), about->name, choice);
 }
 
 const control number_select = {print_select, store_select, 0};
 
 static void print_radio(const setting* about) {
   uint32_t current = 0;
-  uint32_t flags = rd_numberbox_item(page_state(), about->name, &current, 0);
+  uint32_t flags = rd_numberbox_item(state_folder(), about->name, &current, 0);
   for (uint32_t i = 0; about->choices[i] != NULL; i++) {
     print_str("<label>");
     gen_radio(about->name, i, current, NULL, flags);
@@ -43,9 +43,9 @@ static void print_radio(const setting* about) {
 
 static int32_t store_radio(const setting* about, const char* text) {
   uint32_t choice = 0;
-  rd_numberbox_item(page_state(), about->name, &choice, 0);
+  rd_numberbox_item(state_folder(), about->name, &choice, 0);
   scan_select_num(text, &choice, count_choices(about), choice);
-  return update_item_uint(page_state(), about->name, choice);
+  return update_item_uint(state_folder(), about->name, choice);
 }
 
 const control radio_buttons = {print_radio, store_radio, 1};
@@ -54,7 +54,7 @@ enum { VALUE_SIZE = 64 };
 
 static select_state read_text_select(const setting* about) {
   select_state state = {0, {0}};
-  rd_selectbox_text_item(page_state(), about->name, &state, about->row, 0, about->fallback);
+  rd_selectbox_text_item(state_folder(), about->name, &state, about->row, 0, about->fallback);
   return state;
 }
 
@@ -68,7 +68,7 @@ static void print_text_select(const setting* about) {
 static int32_t store_text_select(const setting* about, const char* text) {
   select_state state = read_text_select(about);
   scan_select_text(text, &state, about->row, 0);
-  return update_item(page_state(), about->name, state.value.text, VALUE_SIZE);
+  return update_item(state_folder(), about->name, state.value.text, VALUE_SIZE);
 }
 
 const control text_select = {print_text_select, store_text_select, 0};

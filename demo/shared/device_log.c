@@ -3,8 +3,8 @@
 #include <time.h>
 
 #include "shared/access.h"
-#include "shared/page.h"
 #include "shared/path.h"
+#include "shared/state.h"
 
 enum { LOG_SIZE = 64 << 10 };
 
@@ -13,8 +13,8 @@ void device_log(const char* format, ...) {
   char old[PATH_SIZE];
   char stamp[32] = "";
   time_t now = time(NULL);
-  path_join(path, page_state(), DEVICE_LOG);
-  path_join(old, page_state(), DEVICE_LOG_OLD);
+  path_join(path, state_folder(), DEVICE_LOG);
+  path_join(old, state_folder(), DEVICE_LOG_OLD);
   FILE* file = fopen(path, "a");
   if (file == NULL) return;
   strftime(stamp, sizeof stamp, "%Y-%m-%dT%H:%M:%SZ", gmtime(&now));

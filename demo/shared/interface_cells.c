@@ -4,7 +4,7 @@
 #include <net/if.h>
 #include <string.h>
 
-#include "shared/page.h"
+#include "shared/state.h"
 
 /* The interface being read: the callbacks have no argument that could carry it. */
 static char cells[CELL_COUNT][CELL_SIZE];
@@ -52,7 +52,7 @@ static void read_cells(const char* name) {
   strsncpy(cells[CELL_NAME], CELL_SIZE, name);
   int32_t found = get_interface(name, &info) == 0;
   strsncpy(cells[CELL_STATE], CELL_SIZE, found && (info.flags & IFF_UP) != 0 ? "up" : "down");
-  read_item_uint(page_state(), "phy", &phy);
+  read_item_uint(state_folder(), "phy", &phy);
   strsncpy(cells[CELL_LINK], CELL_SIZE, links[get_link_status(name, phy) + 1]);
   read_interface_conf(name, add_ipv4);
   read_interface6_conf(name, add_ipv6);

@@ -1,19 +1,19 @@
 #include "shared/number_controls.h"
 
-#include "shared/page.h"
+#include "shared/state.h"
 
 static void print_number(const setting* about) {
   uint32_t number = 0;
-  uint32_t flags = rd_numberbox_item(page_state(), about->name, &number, about->limits.usual);
+  uint32_t flags = rd_numberbox_item(state_folder(), about->name, &number, about->limits.usual);
   gen_xnumberbox((uint32_t)about->maximum, number, flags,
                  " id=\"%s\" name=\"%s\" inputmode=\"numeric\"", about->name, about->name);
 }
 
 static int32_t store_number(const setting* about, const char* text) {
   uint32_t number = 0;
-  rd_numberbox_item(page_state(), about->name, &number, about->limits.usual);
+  rd_numberbox_item(state_folder(), about->name, &number, about->limits.usual);
   scan_number(text, &number, about->limits.least, about->limits.most, about->limits.usual);
-  return wr_numberbox_item(page_state(), about->name, number);
+  return wr_numberbox_item(state_folder(), about->name, number);
 }
 
 const control number_box = {print_number, store_number, 0};
@@ -26,7 +26,7 @@ static void scan(const setting* about, const char* text, uint32_t* first, uint32
 
 static uint32_t read_range(const setting* about, uint32_t* first, uint32_t* last) {
   char text[RANGE_BYTES + 1];
-  int32_t length = read_item(page_state(), about->name, text, RANGE_BYTES);
+  int32_t length = read_item(state_folder(), about->name, text, RANGE_BYTES);
   *first = *last = about->limits.usual;
   scan(about, text, first, last);
   return length < 0 ? PF_DISABLED : 0;
@@ -47,7 +47,7 @@ static int32_t store_range(const setting* about, const char* text) {
   read_range(about, &first, &last);
   scan(about, text, &first, &last);
   snprintf(clean, sizeof clean, "%u-%u", (unsigned)first, (unsigned)last);
-  return update_item(page_state(), about->name, clean, RANGE_BYTES);
+  return update_item(state_folder(), about->name, clean, RANGE_BYTES);
 }
 
 const control range_box = {print_range, store_range, 0};

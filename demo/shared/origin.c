@@ -3,6 +3,8 @@
 #include <stdlib.h>
 #include <string.h>
 
+#include "shared/request.h"
+
 /* Whether a URL, or an origin, names this host. */
 static int32_t names_this_host(const char* url) {
   const char* host = getenv("HTTP_HOST");
@@ -14,9 +16,13 @@ static int32_t names_this_host(const char* url) {
          (authority[length] == '\0' || authority[length] == '/');
 }
 
-int32_t origin_allows_post(void) {
+void origin_guard(void) {
   const char* origin = getenv("HTTP_ORIGIN");
-  return origin == NULL || names_this_host(origin);
+  if (!request_is_post() || origin == NULL || names_this_host(origin)) return;
+  print_str(
+      "Status: 403 Forbidden\r\nContent-Type: text/plain\r\n\r\n"
+      "This form was sent by another site. Nothing was stored.\r\n");
+  exit(0);
 }
 
 int32_t origin_allows_query(void) {

@@ -7,8 +7,11 @@
 
 #include <stdint.h>
 
-/* For a POST: browsers tell the origin of each; what tells none is no browser. */
-int32_t origin_allows_post(void);
+/*
+ * Ends the page with status 403 if it is a POST that a form of another site has sent. Browsers tell
+ * the origin of each; what tells none is no browser.
+ */
+void origin_guard(void);
 
 /*
  * For a GET whose query would store something. Browsers tell no origin here, but the referring

@@ -3,7 +3,7 @@
 #include <string.h>
 
 #include "shared/device_log.h"
-#include "shared/form_value.h"
+#include "shared/request.h"
 
 void outcome_note(outcome* result, uint32_t index, int32_t stored) {
   if (stored > 0) result->changed |= 1U << index;
@@ -29,8 +29,8 @@ void outcome_redirect(const outcome* result, const char* page) {
 }
 
 void outcome_read(outcome* result, const cgi_attr* attrs, int32_t count) {
-  const char* changed = form_value(attrs, count, "changed");
-  const char* failed = form_value(attrs, count, "failed");
+  const char* changed = request_value(attrs, count, "changed");
+  const char* failed = request_value(attrs, count, "failed");
   result->changed = str_to_uint(changed);
   result->failed = str_to_uint(failed);
   result->told = changed != NULL || failed != NULL;

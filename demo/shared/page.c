@@ -1,11 +1,7 @@
 #include "shared/page.h"
 
-#include <stdlib.h>
 #include <string.h>
 #include <time.h>
-
-#include "shared/form_value.h"
-#include "shared/origin.h"
 
 /* One page a line. */
 /* clang-format off */
@@ -28,24 +24,6 @@ static const struct {
 };
 /* clang-format on */
 
-const char* page_state(void) {
-  const char* state = getenv("TAVIK_DEMO_STATE");
-  return state != NULL ? state : "/var/lib/tavik-demo";
-}
-
-int32_t page_is_post(void) {
-  const char* method = getenv("REQUEST_METHOD");
-  return method != NULL && strcmp(method, "POST") == 0;
-}
-
-void page_guard(void) {
-  if (!page_is_post() || origin_allows_post()) return;
-  print_str(
-      "Status: 403 Forbidden\r\nContent-Type: text/plain\r\n\r\n"
-      "This form was sent by another site. Nothing was stored.\r\n");
-  exit(0);
-}
-
 static char asked_format[8];
 
 int32_t page_asks_for(const char* format) {
@@ -53,7 +31,7 @@ int32_t page_asks_for(const char* format) {
 }
 
 int32_t page_read_query(void* context, cgi_attr* attrs, int32_t count, int32_t kind) {
-  const char* format = form_value(attrs, count, "format");
+  const char* format = request_value(attrs, count, "format");
   (void)kind;
   if (format != NULL) strsncpy(asked_format, sizeof asked_format, format);
   if (context != NULL) outcome_read(context, attrs, count);
@@ -82,7 +60,7 @@ static void print_head_line(void) {
   time_t now = time(NULL);
   strftime(clock, sizeof clock, "%H:%M:%S on the device", localtime(&now));
   print_str("<header>");
-  print_timeline(page_state(), "hostname", 3 * 63, clock);
+  print_timeline(state_folder(), "hostname", 3 * 63, clock);
   print_str("</header>\r\n");
 }
 
@@ -144,9 +122,9 @@ void page_end(void) {
 
 int page_run(const char* page, cgi_handler save, void (*print_page)(const outcome* result)) {
   outcome result = {0, 0, 0};
-  page_guard();
-  getcgivars(&result, save, page_is_post() ? NULL : page_read_query);
-  if (page_is_post()) {
+  origin_guard();
+  getcgivars(&result, save, request_is_post() ? NULL : page_read_query);
+  if (request_is_post()) {
     outcome_redirect(&result, page);
   } else {
     print_page(&result);

@@ -1,25 +1,18 @@
 /*
- * What all pages of the demo device share: where its state lies, the guard against forms of other
- * sites, and the frame around a page's content and its forms.
- *
- * A page with a form runs like this: page_guard(), getcgivars(), and then, on a POST,
+ * What all pages of the demo device share: the frame around a page's content and its forms, and the
+ * way a page with a form runs, which is origin_guard(), getcgivars(), and then, on a POST,
  * outcome_redirect(), or else page_begin(), outcome_print(), its content and page_end().
  */
 #ifndef DEMO_PAGE_H
 #define DEMO_PAGE_H
 
+#include "shared/origin.h"
 #include "shared/outcome.h"
+#include "shared/request.h"
+#include "shared/state.h"
 
 /* The folder of what pages inline, from where a server starts them. */
 #define PAGE_ASSETS "../../assets"
-
-/* The folder of the device's items. */
-const char* page_state(void);
-
-/* Ends the page with status 403 if it is a POST that a form of another site has sent. */
-void page_guard(void);
-
-int32_t page_is_post(void);
 
 /* A handler for the query of a page; the context is the outcome that is to be told, or null. */
 int32_t page_read_query(void* context, cgi_attr* attrs, int32_t count, int32_t kind);

@@ -3,7 +3,7 @@
 #include <arpa/inet.h>
 #include <string.h>
 
-#include "shared/page.h"
+#include "shared/state.h"
 #include "shared/text_filters.h"
 
 enum {
@@ -63,7 +63,7 @@ static int32_t take_line(uintptr_t context, char* line) {
 
 void routes_read(xtable* routes) {
   char path[512];
-  snprintf(path, sizeof path, "%s/routes", page_state());
+  snprintf(path, sizeof path, "%s/routes", state_folder());
   rd_file_line(path, take_line, (uintptr_t)routes);
 }
 
@@ -82,7 +82,7 @@ static const char* file_text(const xtable* routes) {
 }
 
 int32_t routes_store(const xtable* routes) {
-  return update_textarea_file(page_state(), "routes", file_text(routes), FILE_SIZE);
+  return update_textarea_file(state_folder(), "routes", file_text(routes), FILE_SIZE);
 }
 
 uint32_t routes_mark(const xtable* routes) {

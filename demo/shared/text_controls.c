@@ -3,15 +3,15 @@
 #include <stdlib.h>
 #include <string.h>
 
-#include "shared/page.h"
+#include "shared/state.h"
 
 static void print_box(const setting* about) {
-  gen_xtextbox_item(page_state(), about->name, about->maximum, about->flags,
+  gen_xtextbox_item(state_folder(), about->name, about->maximum, about->flags,
                     " id=\"%s\" name=\"%s\"", about->name, about->name);
 }
 
 static int32_t store_box(const setting* about, const char* text) {
-  return update_textbox_item(page_state(), about->name, text, (uint32_t)about->maximum,
+  return update_textbox_item(state_folder(), about->name, text, (uint32_t)about->maximum,
                              about->filter);
 }
 
@@ -20,7 +20,7 @@ const control text_box = {print_box, store_box, 0};
 static void print_area(const setting* about) {
   char* text = NULL;
   uint32_t maximum = (uint32_t)about->maximum;
-  int32_t size = get_textarea_file(&text, page_state(), about->name, maximum);
+  int32_t size = get_textarea_file(&text, state_folder(), about->name, maximum);
   gen_textarea(text, size > 0 ? 0 : PF_DISABLED,
                " id=\"%s\" name=\"%s\" rows=\"4\" maxlength=\"%u\"", about->name, about->name,
                maximum);
@@ -40,7 +40,8 @@ char* text_area_clean(const setting* about, const char* text) {
 static int32_t store_area(const setting* about, const char* text) {
   char* clean = text_area_clean(about, text);
   if (clean == NULL) return -1;
-  int32_t stored = update_textarea_file(page_state(), about->name, clean, (uint32_t)about->maximum);
+  int32_t stored =
+      update_textarea_file(state_folder(), about->name, clean, (uint32_t)about->maximum);
   free(clean);
   return stored;
 }

@@ -1,11 +1,11 @@
 #include "shared/time_box.h"
 
-#include "shared/page.h"
+#include "shared/state.h"
 
 enum { TIME_CHARACTERS = 5 };
 
 static void print_time(const setting* about) {
-  gen_xtextbox_item(page_state(), about->name, TIME_CHARACTERS, 0,
+  gen_xtextbox_item(state_folder(), about->name, TIME_CHARACTERS, 0,
                     " id=\"%s\" name=\"%s\" placeholder=\"HH:MM\" required", about->name,
                     about->name);
 }
@@ -21,7 +21,7 @@ static int32_t store_time(const setting* about, const char* text) {
   scan_textbox(text, TIME_CHARACTERS, 0, clean, TIME_CHARACTERS, of_a_time);
   if (scan_time(clean, &hours, &minutes) < 1) return -1;
   snprintf(clean, sizeof clean, "%02u:%02u", hours % 24, minutes % 60);
-  return update_item(page_state(), about->name, clean, TIME_CHARACTERS);
+  return update_item(state_folder(), about->name, clean, TIME_CHARACTERS);
 }
 
 const control time_box = {print_time, store_time, 0};
@@ -29,6 +29,6 @@ const control time_box = {print_time, store_time, 0};
 void time_read(const setting* about, uint32_t* hours, uint32_t* minutes) {
   char text[TIME_CHARACTERS + 1];
   *hours = *minutes = 0;
-  read_item(page_state(), about->name, text, TIME_CHARACTERS);
+  read_item(state_folder(), about->name, text, TIME_CHARACTERS);
   scan_time(text, hours, minutes);
 }

@@ -1,6 +1,6 @@
 #include "shared/told.h"
 
-#include "shared/form_value.h"
+#include "shared/request.h"
 
 void told_redirect(const char* page, uint32_t number) {
   printf("Status: 303 See Other\r\nLocation: %s?told=%u\r\n\r\n", page, (unsigned)number);
@@ -9,7 +9,7 @@ void told_redirect(const char* page, uint32_t number) {
 int32_t told_read(void* context, cgi_attr* attrs, int32_t count, int32_t kind) {
   uint32_t* number = context;
   (void)kind;
-  *number = str_to_uint(form_value(attrs, count, "told"));
+  *number = str_to_uint(request_value(attrs, count, "told"));
   return 0;
 }
 
